@@ -1,0 +1,212 @@
+#include "evemodel.h"
+
+#include "systempaths.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+
+EveModel::EveModel(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+    headerLabels << tr("Variable") << tr("Value") << tr("Origin") << tr("Description");
+
+    // The environment tells the shell and the home directory, which decide
+    // the files; the files then tell where each variable comes from.
+    loadEnvironment(rows);
+    switch (ShellKind) {
+    case Bash:
+        localFile = homeDir + QStringLiteral("/.bashrc");
+        globalFile = SystemPaths::bashBashrc();
+        break;
+    case Csh:
+        localFile = homeDir + QStringLiteral("/.cshrc");
+        globalFile = SystemPaths::cshCshrc();
+        break;
+    default:
+        localFile = homeDir + QStringLiteral("/.profile");
+        globalFile = SystemPaths::etcProfile();
+        break;
+    }
+    chooseConfigFiles(ShellKind, globalFile, localFile);
+    readFileLists();
+    loadFiles();
+}
+
+bool EveModel::isValid(const QModelIndex &index) const
+{
+    return index.isValid() && index.row() < rows.size();
+}
+
+int EveModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : rows.size();
+}
+
+int EveModel::columnCount(const QModelIndex &) const
+{
+    return rows.isEmpty() ? 0 : int(ColumnCount);
+}
+
+Qt::ItemFlags EveModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid() || rows.isEmpty())
+        return Qt::NoItemFlags;
+    switch (index.column()) {
+    case VariableColumn:
+    case ValueColumn:
+    case DescriptionColumn:
+        return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    default:
+        return QAbstractTableModel::flags(index);
+    }
+}
+
+QVariant EveModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role == Qt::DisplayRole) {
+        if (orientation == Qt::Vertical)
+            return QVariant();
+        if (section >= 0 && section < headerLabels.size())
+            return headerLabels.at(section);
+    }
+    return QAbstractTableModel::headerData(section, orientation, role);
+}
+
+QVariant EveModel::data(const QModelIndex &index, int role) const
+{
+    if (!isValid(index))
+        return QVariant();
+    const QStringList row = rows.at(index.row());
+
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return row.value(index.column());
+    case Qt::StatusTipRole:
+        return row.value(VariableColumn) + QLatin1Char('=') + row.value(ValueColumn);
+    case Qt::ToolTipRole: {
+        QString tip = QStringLiteral("<table>");
+        for (int column = VariableColumn; column <= OriginColumn; ++column) {
+            const QString label = headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+            QString text = row.value(column);
+            if (text.isEmpty())
+                continue;
+            if (column == ValueColumn && text.size() > 50) {
+                // Long path lists get a space before each colon so the tip
+                // can wrap there; anything else is cut.
+                if (text.contains(QLatin1Char(':')))
+                    text.replace(QLatin1Char(':'), QStringLiteral(" :"));
+                else
+                    text = text.left(51) + QStringLiteral("...");
+            }
+            tip += QStringLiteral("<tr><td><b>%1</b>: %2</td></tr>").arg(label, text);
+        }
+        return tip + QStringLiteral("</table>");
+    }
+    default:
+        return QVariant();
+    }
+}
+
+bool EveModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!isValid(index) || role != Qt::EditRole)
+        return false;
+    QStringList &row = rows[index.row()];
+
+    if ((index.column() == VariableColumn || index.column() == ValueColumn) &&
+        !row.value(VipColumn).isEmpty()) {
+        const auto answer =
+            QMessageBox::warning(nullptr, tr("Request of confirmation"),
+                                 tr("Really change the value of system variable?"),
+                                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        if (answer != QMessageBox::Yes)
+            return false;
+    }
+    if (row.value(PreviousColumn).isEmpty())
+        row[PreviousColumn] = row.value(index.column());
+    row[index.column()] = value.toString();
+    emit dataChanged(index, index);
+    return true;
+}
+
+bool EveModel::setData(const QModelIndex &index, const QString &name, const QString &value,
+                       const QString &description, const QString &scope, const QString &vip,
+                       const QString &, int)
+{
+    if (!isValid(index))
+        return false;
+    QStringList &row = rows[index.row()];
+    if (row.size() < ColumnCount)
+        return false;
+
+    if (row.at(PreviousColumn).isEmpty())
+        row[PreviousColumn] = row.at(ValueColumn);
+    row[VariableColumn] = name;
+    row[ValueColumn] = value;
+    row[DescriptionColumn] = description;
+    row[ScopeColumn] = scope;
+    row[VipColumn] = vip;
+    emit dataChanged(this->index(index.row(), VariableColumn),
+                     this->index(index.row(), PreviousColumn));
+    return true;
+}
+
+bool EveModel::insertRows(int row, int, const QModelIndex &)
+{
+    const QStringList record{tr("__new__"), tr("VALUE"), tr("System"), QString(),
+                             QString(),     QString(),   QString()};
+    beginInsertRows(QModelIndex(), row, row);
+    rows.append(record);
+    endInsertRows();
+    return true;
+}
+
+bool EveModel::insertRows(int row, int, const QStringList &fields, const QModelIndex &)
+{
+    // Fields are name, value, description and scope; a new row keeps its value
+    // as the change marker so that the next save writes it.
+    QStringList record;
+    if (fields.size() <= 4) {
+        record << fields.value(0) << fields.value(1) << tr("System") << fields.value(2)
+               << fields.value(3) << QString() << fields.value(1);
+    }
+    beginInsertRows(QModelIndex(), row, row);
+    rows.append(record);
+    endInsertRows();
+    return true;
+}
+
+bool EveModel::removeRows(int row, int, const QModelIndex &)
+{
+    if (row >= 0 && row < rows.size()) {
+        beginRemoveRows(QModelIndex(), row, row);
+        // Remembered so that the next save blanks the export line. The test
+        // is on the Description column and compares the untranslated word.
+        if (rows.at(row).value(DescriptionColumn) != QLatin1String("System"))
+            deletedRows.append(rows.at(row));
+        rows.removeAt(row);
+        endRemoveRows();
+    }
+    emit layoutChanged();
+    if (rows.size() <= 1)
+        emit disableDel();
+    return true;
+}
+
+void EveModel::sort(int column, Qt::SortOrder order)
+{
+    // Ascending puts Z before A and descending A before Z; equal texts (also
+    // those differing only in case) keep their order.
+    if (order == Qt::AscendingOrder || order == Qt::DescendingOrder) {
+        const int sign = order == Qt::AscendingOrder ? 1 : -1;
+        std::stable_sort(
+            rows.begin(), rows.end(), [column, sign](const QStringList &a, const QStringList &b) {
+                const int c =
+                    QString::compare(a.value(column), b.value(column), Qt::CaseInsensitive);
+                return sign * c > 0;
+            });
+    }
+    emit layoutChanged();
+}

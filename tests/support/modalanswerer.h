@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+
+class QWidget;
+
+// Answers modal message boxes and dialogs from a timer, so that no test ever
+// waits on one. Each modal widget that appears takes the next answer: a button
+// text (matched without '&', ignoring case) or a function that acts on it.
+class ModalAnswerer : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Seen
+    {
+        QString className;
+        QString title;
+        QString text;        // a message box's text
+        QStringList buttons; // a message box's or button box's buttons, '&' removed
+    };
+    using Action = std::function<void(QWidget *)>;
+
+    explicit ModalAnswerer(const QStringList &answers = {});
+    void addAnswer(const QString &buttonText);
+    void addAction(const Action &action);
+
+    QList<Seen> seen;
+    int pending() const { return actions.size(); }
+
+    // Clicks the named button of a message box or dialog button box.
+    static bool clickButton(QWidget *widget, const QString &text);
+
+private:
+    void poll();
+
+    QTimer timer;
+    QList<Action> actions;
+    QList<QPointer<QWidget>> handled;
+};

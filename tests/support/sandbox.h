@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// Keeps a test away from the real home directory, settings, /etc and /tmp.
+//
+// prepareProcess() runs before the QApplication exists: it makes one
+// temporary directory for the whole process and points HOME, XDG_CONFIG_HOME,
+// XDG_RUNTIME_DIR, TMPDIR, the settings and ORV_ADMIN_ENV_SYSROOT into it.
+// A Sandbox object per test case empties that directory and the settings.
+class Sandbox
+{
+public:
+    static void prepareProcess();
+
+    Sandbox();
+    ~Sandbox();
+    Sandbox(const Sandbox &) = delete;
+    Sandbox &operator=(const Sandbox &) = delete;
+
+    static QString home();    // the temporary HOME
+    static QString sysroot(); // what the program sees as "/"
+    // A system path such as "/etc/profile" as the program sees it.
+    static QString system(const QString &path);
+
+    // Replaces the whole process environment by these NAME=VALUE entries.
+    static void setEnvironment(const QStringList &entries);
+    // An ordinary bash session of user "tester" in the sandbox home.
+    static void setUserEnvironment(const QStringList &extra = {});
+
+    static void writeFile(const QString &path, const QByteArray &contents);
+    static QByteArray readFile(const QString &path);
+    // A directory of that name: even root cannot open it as a file.
+    static void blockPath(const QString &path);
+};
+
+// Use instead of QTEST_MAIN: prepares the sandbox before the application.
+#define ORV_SANDBOX_TEST_MAIN(TestObject)                                                          \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        Sandbox::prepareProcess();                                                                 \
+        QApplication app(argc, argv);                                                              \
+        app.setAttribute(Qt::AA_Use96Dpi, true);                                                   \
+        TestObject tc;                                                                             \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
+        return QTest::qExec(&tc, argc, argv);                                                      \
+    }

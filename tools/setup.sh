@@ -1,0 +1,50 @@
+#!/bin/sh
+# Installs what is missing on a Debian machine, builds, then starts the
+# editor ("run") or runs every test ("test").
+set -eu
+
+usage() {
+    echo "usage: $0 run|test" >&2
+    exit 2
+}
+[ $# -eq 1 ] || usage
+mode=$1
+case "$mode" in run | test) ;; *) usage ;; esac
+
+cd "$(dirname "$0")/.."
+
+packages="cmake make g++ qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n"
+if [ "$mode" = test ]; then
+    packages="$packages xvfb xauth xdotool openbox desktop-file-utils appstream libbenchmark-dev"
+fi
+
+missing=""
+for package in $packages; do
+    if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
+        missing="$missing $package"
+    fi
+done
+if [ -n "$missing" ]; then
+    echo "Installing:$missing"
+    sudo=""
+    [ "$(id -u)" -eq 0 ] || sudo="sudo"
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $missing
+fi
+
+werror=OFF
+[ "${CI:-}" = true ] && werror=ON
+cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DORV_ADMIN_ENV_WERROR=$werror
+cmake --build build --parallel "$(nproc)"
+
+if [ "$mode" = run ]; then
+    if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+        echo "No display: DISPLAY and WAYLAND_DISPLAY are empty." >&2
+        echo "Start the editor from a desktop session, or try it with: xvfb-run build/orv-admin-env" >&2
+        exit 2
+    fi
+    exec build/orv-admin-env
+fi
+
+cd build
+exec ctest --output-on-failure --timeout 300
