@@ -32,7 +32,9 @@ bool ExportMatcher::match(const QString &line)
 
 QStringList splitEnvironmentEntry(const QString &entry)
 {
-    QRegExp rx(QStringLiteral("([a-zA-Z0-9_]+)=(.*)"), Qt::CaseSensitive, QRegExp::RegExp);
+    // Built once: the environment can hold thousands of entries.
+    thread_local QRegExp rx(QStringLiteral("([a-zA-Z0-9_]+)=(.*)"), Qt::CaseSensitive,
+                            QRegExp::RegExp);
     if (rx.indexIn(entry) < 0)
         return {QString(), QString()};
     return {rx.cap(1), rx.cap(2)};

@@ -5,6 +5,8 @@
 #include <QMessageBox>
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 EveModel::EveModel(QObject *parent)
     : QAbstractTableModel(parent)
@@ -200,13 +202,21 @@ void EveModel::sort(int column, Qt::SortOrder order)
     // Ascending puts Z before A and descending A before Z; equal texts (also
     // those differing only in case) keep their order.
     if (order == Qt::AscendingOrder || order == Qt::DescendingOrder) {
+        QVector<QString> keys;
+        keys.reserve(rows.size());
+        for (const QStringList &row : qAsConst(rows))
+            keys.append(row.value(column));
+        std::vector<int> byText(size_t(rows.size()));
+        std::iota(byText.begin(), byText.end(), 0);
         const int sign = order == Qt::AscendingOrder ? 1 : -1;
-        std::stable_sort(
-            rows.begin(), rows.end(), [column, sign](const QStringList &a, const QStringList &b) {
-                const int c =
-                    QString::compare(a.value(column), b.value(column), Qt::CaseInsensitive);
-                return sign * c > 0;
-            });
+        std::stable_sort(byText.begin(), byText.end(), [&keys, sign](int a, int b) {
+            return sign * QString::compare(keys.at(a), keys.at(b), Qt::CaseInsensitive) > 0;
+        });
+        QList<QStringList> sorted;
+        sorted.reserve(rows.size());
+        for (const int i : byText)
+            sorted.append(rows.at(i));
+        rows.swap(sorted);
     }
     emit layoutChanged();
 }
