@@ -29,9 +29,16 @@ const ColumnWidth columnWidths[] = {
 
 } // namespace
 
+// The form icons live in the core library, which is linked statically.
+static void initResources()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 Eve::Eve(QWidget *parent)
     : QMainWindow(parent)
 {
+    initResources();
     setupUi(this);
     initDesktopUi();
 
@@ -80,6 +87,9 @@ Eve::Eve(QWidget *parent)
 
 Eve::~Eve()
 {
+    // Hidden first: hiding a visible table after its header is gone would
+    // lay out the deleted header.
+    hide();
     delete model;
     delete header;
 }

@@ -1,6 +1,7 @@
 #include "eve.h"
 #include "orvintegration.h"
 #include "qtsingleapplication.h"
+#include "translations.h"
 
 #include <QIcon>
 
@@ -15,6 +16,7 @@ int main(int argc, char *argv[])
 
     orvInit("1.1.1",
             "Orv-admin-env provides easy and convenient way to manage environment variables.");
+    installTranslations(&app);
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-terminal"), QIcon()));
 
     Eve *window = new Eve;

@@ -58,8 +58,8 @@ void OrvHelpMenu::showAbout()
     const QString text = QStringLiteral("<p><b>%1</b> %2</p><p>%3</p>")
                              .arg(QCoreApplication::applicationName().toHtmlEscaped(),
                                   orvVersion().toHtmlEscaped(), orvDescription().toHtmlEscaped());
-    QMessageBox::about(parentWidget(), tr("About %1").arg(QGuiApplication::applicationDisplayName()),
-                       text);
+    QMessageBox::about(parentWidget(),
+                       tr("About %1").arg(QGuiApplication::applicationDisplayName()), text);
 }
 
 QWidget *orvHelpLookForWidget()

@@ -23,11 +23,10 @@ QString instanceKey()
 {
     QString name = QCoreApplication::applicationName().left(40);
     for (QChar &c : name) {
-        const bool safe = (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
-                          || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
-                          || (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-                          || c == QLatin1Char('-') || c == QLatin1Char('_')
-                          || c == QLatin1Char('.');
+        const bool safe = (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ||
+                          (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) ||
+                          (c >= QLatin1Char('0') && c <= QLatin1Char('9')) ||
+                          c == QLatin1Char('-') || c == QLatin1Char('_') || c == QLatin1Char('.');
         if (!safe)
             c = QLatin1Char('_');
     }
@@ -77,8 +76,7 @@ bool QtSingleApplication::tryBecomeFirst()
 
     m_server = new QLocalServer(this);
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server, &QLocalServer::newConnection, this,
-            &QtSingleApplication::acceptConnections);
+    connect(m_server, &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnections);
     // A socket file left behind by a crashed first instance would make
     // listen() fail; the lock tells us nobody is using it any more.
     QLocalServer::removeServer(m_serverName);

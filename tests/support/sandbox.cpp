@@ -33,6 +33,7 @@ void Sandbox::prepareProcess()
     qputenv("LANG", "C");
     qputenv("LC_ALL", "C");
     processDir = new QTemporaryDir(QDir::tempPath() + QStringLiteral("/orv-test-XXXXXX"));
+    std::atexit([] { delete processDir; });
     const QString base = processDir->path();
     for (const char *dir : {"home", "config", "runtime", "tmp", "root/etc", "root/tmp"})
         QDir().mkpath(base + QLatin1Char('/') + QLatin1String(dir));

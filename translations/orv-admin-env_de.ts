@@ -1,0 +1,687 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>Eve</name>
+    <message>
+        <location filename="../app/eve.cpp" line="+92"/>
+        <source>Orv environment variable editor</source>
+        <translation>Orv-Editor für Umgebungsvariablen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orv env editor</source>
+        <translation>Orv-Umgebungseditor</translation>
+    </message>
+    <message>
+        <location line="+159"/>
+        <source>Help Dump</source>
+        <translation>Hilfeausgabe</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Apply changes now?</source>
+        <translation>Änderungen jetzt übernehmen?</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Do you want to save data and apply changes now?</source>
+        <translation>Möchten Sie die Daten speichern und die Änderungen jetzt übernehmen?</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>New settings have been applied!</source>
+        <translation>Die neuen Einstellungen wurden übernommen!</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Changes were saved successfully!</source>
+        <translation>Die Änderungen wurden erfolgreich gespeichert!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes were saved</source>
+        <translation>Änderungen gespeichert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes were saved and will be applied after restarting a session!</source>
+        <translation>Die Änderungen wurden gespeichert und werden nach einem Neustart der Sitzung wirksam!</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+82"/>
+        <location line="+19"/>
+        <source>Attention!</source>
+        <translation>Achtung!</translation>
+    </message>
+    <message>
+        <location line="-100"/>
+        <source>Unable to save changes - file access denied!</source>
+        <translation>Die Änderungen konnten nicht gespeichert werden - Zugriff auf die Datei verweigert!</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>All changes were reseted!</source>
+        <translation>Alle Änderungen wurden zurückgesetzt!</translation>
+    </message>
+    <message>
+        <location line="+57"/>
+        <source>Changes are not saved!</source>
+        <translation>Die Änderungen sind nicht gespeichert!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Do you want to save your changes?
+ (Changes will be applied after restarting a session)</source>
+        <translation>Möchten Sie Ihre Änderungen speichern?
+ (Die Änderungen werden nach einem Neustart der Sitzung wirksam)</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Do you really want to reset?</source>
+        <translation>Möchten Sie wirklich zurücksetzen?</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Do you really want to delete SYSTEM variable located at file 
+</source>
+        <translation>Möchten Sie wirklich die SYSTEM-Variable löschen, die in folgender Datei steht: 
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Do you really want to delete a variable?</source>
+        <translation>Möchten Sie die Variable wirklich löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>EveModel</name>
+    <message>
+        <location filename="../model/catalogue.cpp" line="+16"/>
+        <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
+        <translation>Das Home-Verzeichnis des aktuellen Benutzers; der Standard für den eingebauten Befehl cd. Der Wert dieser Variable wird auch bei der Tilde-Expansion verwendet.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Your logname</source>
+        <translation>Ihr Anmeldename</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Your shell</source>
+        <translation>Ihre Shell</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A colon-separated list of directories used as a search path for the cd built-in command.</source>
+        <translation>Eine durch Doppelpunkte getrennte Liste von Verzeichnissen, die als Suchpfad für den eingebauten Befehl cd dient.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>A list of characters that separate fields; used when the shell splits words as part of expansion.</source>
+        <translation>Eine Liste von Zeichen, die Felder trennen; wird verwendet, wenn die Shell bei der Expansion Wörter aufteilt.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If this parameter is set to a file name and the MAILPATH variable is not set, Bash informs the user of the arrival of mail in the specified file.</source>
+        <translation>Ist dieser Parameter auf einen Dateinamen gesetzt und die Variable MAILPATH nicht gesetzt, informiert Bash den Benutzer über neue Post in der angegebenen Datei.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>A colon-separated list of file names which the shell periodically checks for new mail.</source>
+        <translation>Eine durch Doppelpunkte getrennte Liste von Dateinamen, die die Shell regelmäßig auf neue Post prüft.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The value of the last option argument processed by the getopts built-in.</source>
+        <translation>Der Wert des letzten Optionsarguments, das der eingebaute Befehl getopts verarbeitet hat.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The index of the last option argument processed by the getopts built-in.</source>
+        <translation>Der Index des letzten Optionsarguments, das der eingebaute Befehl getopts verarbeitet hat.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>A colon-separated list of directories in which the shell looks for commands.</source>
+        <translation>Eine durch Doppelpunkte getrennte Liste von Verzeichnissen, in denen die Shell nach Befehlen sucht.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The primary prompt string.</source>
+        <translation>Die primäre Eingabeaufforderung.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The secondary prompt string.</source>
+        <translation>Die sekundäre Eingabeaufforderung.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The full pathname used to execute the current instance of Bash.</source>
+        <translation>Der vollständige Pfadname, mit dem die aktuelle Bash-Instanz gestartet wurde.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If this variable is set when Bash is invoked to execute a shell script, its value is expanded and used as the name of a startup file to read before executing the script.</source>
+        <translation>Ist diese Variable gesetzt, wenn Bash zum Ausführen eines Shell-Skripts aufgerufen wird, wird ihr Wert expandiert und als Name einer Startdatei verwendet, die vor dem Ausführen des Skripts gelesen wird.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The version number of the current instance of Bash.</source>
+        <translation>Die Versionsnummer der aktuellen Bash-Instanz.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A read-only array variable whose members hold version information for this instance of Bash.</source>
+        <translation>Eine schreibgeschützte Array-Variable, deren Elemente Versionsinformationen zu dieser Bash-Instanz enthalten.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Used by the select built-in to determine the terminal width when printing selection lists. Automatically set upon receipt of a SIGWINCH signal.</source>
+        <translation>Wird vom eingebauten Befehl select verwendet, um beim Ausgeben von Auswahllisten die Terminalbreite zu bestimmen. Wird beim Empfang eines SIGWINCH-Signals automatisch gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>An index into ${COMP_WORDS} of the word containing the current cursor position.</source>
+        <translation>Der Index in ${COMP_WORDS} des Wortes, das die aktuelle Cursorposition enthält.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The current command line.</source>
+        <translation>Die aktuelle Befehlszeile.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The numeric, real user ID of the current user.</source>
+        <translation>Die numerische, reale Benutzerkennung des aktuellen Benutzers.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Incremented by one each time a new instance of Bash is started.</source>
+        <translation>Wird bei jedem Start einer neuen Bash-Instanz um eins erhöht.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>A colon-separated list of enabled shell options.</source>
+        <translation>Eine durch Doppelpunkte getrennte Liste der aktivierten Shell-Optionen.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The default variable for the read built-in.</source>
+        <translation>Die Standardvariable für den eingebauten Befehl read.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>GHOSTSCRIPT library.</source>
+        <translation>GHOSTSCRIPT-Bibliothek.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The value of this parameter is used as a format string specifying how the timing information for pipelines prefixed with the time reserved word should be displayed.</source>
+        <translation>Der Wert dieses Parameters dient als Formatzeichenkette, die festlegt, wie die Zeitmessung für Pipelines angezeigt wird, denen das reservierte Wort time vorangestellt ist.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Each time this parameter is referenced, a random integer between 0 and 32767 is generated. Assigning a value to this variable seeds the random number generator.</source>
+        <translation>Bei jedem Zugriff auf diesen Parameter wird eine zufällige Ganzzahl zwischen 0 und 32767 erzeugt. Eine Zuweisung an diese Variable initialisiert den Zufallszahlengenerator.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The current working directory as set by the cd built-in command.</source>
+        <translation>Das aktuelle Arbeitsverzeichnis, wie es der eingebaute Befehl cd gesetzt hat.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If set, the value is interpreted as a command to execute before the printing of each primary prompt (PS1).</source>
+        <translation>Falls gesetzt, wird der Wert als Befehl interpretiert, der vor der Ausgabe jeder primären Eingabeaufforderung (PS1) ausgeführt wird.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The process ID of the shell&apos;s parent process.</source>
+        <translation>Die Prozesskennung des Elternprozesses der Shell.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A string describing the operating system Bash is running on.</source>
+        <translation>Eine Zeichenkette, die das Betriebssystem beschreibt, auf dem Bash läuft.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Used to determine the locale category for any category not specifically selected with a variable starting with LC_.</source>
+        <translation>Bestimmt die Locale für jede Kategorie, die nicht ausdrücklich durch eine mit LC_ beginnende Variable gewählt ist.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>This variable overrides the value of LANG and any other LC_ variable specifying a locale category.</source>
+        <translation>Diese Variable setzt den Wert von LANG und jeder anderen LC_-Variable, die eine Locale-Kategorie festlegt, außer Kraft.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The name of the current host.</source>
+        <translation>Der Name des aktuellen Rechners.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Defines whether a command is added to the history file.</source>
+        <translation>Legt fest, ob ein Befehl in die History-Datei aufgenommen wird.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Username.</source>
+        <translation>Benutzername.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Holds the agent&apos;s process ID.</source>
+        <translation>Enthält die Prozesskennung des Agenten.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Stores the desktop name.. kde, gnome or something else.</source>
+        <translation>Speichert den Namen der Arbeitsumgebung.. kde, gnome oder eine andere.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XDG_SESSION_COOKIE: Variable set by XDG_Utils package.</source>
+        <translation>XDG_SESSION_COOKIE: Vom Paket XDG_Utils gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>XDG_DATA_DIRS: Determines paths for directories used by XDG_Utils.</source>
+        <translation>XDG_DATA_DIRS: Legt die Pfade der von XDG_Utils verwendeten Verzeichnisse fest.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XCURSOR_THEME: Determines cursor theme.</source>
+        <translation>XCURSOR_THEME: Legt das Mauszeiger-Thema fest.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XAUTHORITY: Path to file contains user cookies for authorization on X-Server.</source>
+        <translation>XAUTHORITY: Pfad zur Datei mit den Cookies des Benutzers für die Anmeldung am X-Server.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>WINDOWPATH: Set by X-server.</source>
+        <translation>WINDOWPATH: Vom X-Server gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>WINDOWID: Set by X-server, Id of window.</source>
+        <translation>WINDOWID: Vom X-Server gesetzt, Kennung des Fensters.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USERNAME: Name of logined user.</source>
+        <translation>USERNAME: Name des angemeldeten Benutzers.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>TERM: Determines method of screen clearing, cursor moving etc, use by many programs.</source>
+        <translation>TERM: Bestimmt, wie der Bildschirm gelöscht, der Cursor bewegt wird usw., von vielen Programmen verwendet.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>SSH_AUTH_SOCK: Variable set by SSH, use for determine method of connection to active SSH agent.</source>
+        <translation>SSH_AUTH_SOCK: Von SSH gesetzte Variable, bestimmt, wie die Verbindung zum aktiven SSH-Agenten hergestellt wird.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>SESSION_MANAGER: Location of socket using for X-session.</source>
+        <translation>SESSION_MANAGER: Ort des Sockets, den die X-Sitzung verwendet.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OLDPWD: Previous work dir set by cd command.</source>
+        <translation>OLDPWD: Vorheriges Arbeitsverzeichnis, vom Befehl cd gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>LS_COLORS: Information about color scheme used with ls command.</source>
+        <translation>LS_COLORS: Angaben zum Farbschema, das der Befehl ls verwendet.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>LANGUAGE: May contain information about language.</source>
+        <translation>LANGUAGE: Kann Angaben zur Sprache enthalten.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ID of instance of Midnight Commander.</source>
+        <translation>Kennung der Midnight-Commander-Instanz.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>LANG: Determines desirable locale.</source>
+        <translation>LANG: Legt die gewünschte Locale fest.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>KONSOLE_DCOP_SESSION: Variable set by Konsole Terminal Emulator.</source>
+        <translation>KONSOLE_DCOP_SESSION: Vom Terminalemulator Konsole gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>KONSOLE_DCOP: Variable set by Konsole Terminal Emulator, used for Desktop COmmunication Protocol needs.</source>
+        <translation>KONSOLE_DCOP: Vom Terminalemulator Konsole gesetzte Variable, wird für das Desktop COmmunication Protocol (DCOP) benötigt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>KDE_MULTIHEAD: Variable set by KDE.</source>
+        <translation>KDE_MULTIHEAD: Von KDE gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>KDE_SESSION_UID: Variable set by KDE.</source>
+        <translation>KDE_SESSION_UID: Von KDE gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>KDE_FULL_SESSION: Variable set by KDE.</source>
+        <translation>KDE_FULL_SESSION: Von KDE gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GTK_RC_FILES: Variable set by GTK (Gimp Toolkit Library).</source>
+        <translation>GTK_RC_FILES: Von GTK (Gimp-Toolkit-Bibliothek) gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GTK2_RC_FILES: Variable set by GTK (Gimp Toolkit Library).</source>
+        <translation>GTK2_RC_FILES: Von GTK (Gimp-Toolkit-Bibliothek) gesetzte Variable.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GDMSESSION: Contains basename of .desktop file using in current session.</source>
+        <translation>GDMSESSION: Enthält den Basisnamen der .desktop-Datei der aktuellen Sitzung.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>GDM_XSERVER_LOCATION: Location of X-Server for Gnome Display Manager.</source>
+        <translation>GDM_XSERVER_LOCATION: Ort des X-Servers für den Gnome Display Manager.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GDM_LANG: Language for Gnome Display Manager.</source>
+        <translation>GDM_LANG: Sprache für den Gnome Display Manager.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DISPLAY: Contains address of computer, where additional window must be opened.</source>
+        <translation>DISPLAY: Enthält die Adresse des Rechners, auf dem weitere Fenster geöffnet werden sollen.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>DESKTOP_STARTUP_ID: For interprocess (launcher and launchee) information exchange.</source>
+        <translation>DESKTOP_STARTUP_ID: Für den Informationsaustausch zwischen Prozessen (startendem und gestartetem Programm).</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Additional property of terminal emulator.</source>
+        <translation>Zusätzliche Eigenschaft des Terminalemulators.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temp directory for Midnight Commander needs.</source>
+        <translation>Temporäres Verzeichnis für Midnight Commander.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Since KDE4 contains the major version number.</source>
+        <translation>Enthält seit KDE4 die Hauptversionsnummer.</translation>
+    </message>
+    <message>
+        <location filename="../model/evemodel.cpp" line="+14"/>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Origin</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <location line="+109"/>
+        <source>Request of confirmation</source>
+        <translation>Bestätigung erforderlich</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Really change the value of system variable?</source>
+        <translation>Den Wert der Systemvariable wirklich ändern?</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>__new__</source>
+        <translation>__new__</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>VALUE</source>
+        <translation>WERT</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+14"/>
+        <location filename="../config/loading.cpp" line="+23"/>
+        <location filename="../config/saving.cpp" line="+11"/>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <location filename="../config/loading.cpp" line="+44"/>
+        <source>Couldn&apos;t open file: %1 !</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
+    </message>
+    <message>
+        <location filename="../config/saving.cpp" line="+30"/>
+        <location line="+25"/>
+        <source>Warning!</source>
+        <translation>Warnung!</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Couldn&apos;t open file %1 for saving variable %2</source>
+        <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Couldn&apos;t open file %1 for deleting variable %2</source>
+        <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <location filename="../resources/mainwindow.ui"/>
+        <source>Environment Variables Editor</source>
+        <translation>Editor für Umgebungsvariablen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <location/>
+        <source>toolBar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Add...</source>
+        <translation>&amp;Hinzufügen...</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Ins</source>
+        <comment>Ins</comment>
+        <translation>Ins</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Del</source>
+        <comment>Del</comment>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Preferences...</source>
+        <translation>Einstellungen...</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Open Preferences dialog</source>
+        <translation>Den Einstellungsdialog öffnen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Edit...</source>
+        <translation>Bearbeiten...</translation>
+    </message>
+</context>
+<context>
+    <name>OrvHelpMenu</name>
+    <message>
+        <location filename="../platform/orvintegration.cpp" line="+49"/>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>About...</source>
+        <translation>Über...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+</context>
+<context>
+    <name>preferencesDialog</name>
+    <message>
+        <location filename="../resources/preferencesdialog.ui"/>
+        <location filename="../dialogs/preferencesdialog.cpp" line="+31"/>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>System Config Files</source>
+        <translation>Systemweite Konfigurationsdateien</translation>
+    </message>
+    <message>
+        <location/>
+        <source>User Config Files</source>
+        <translation>Konfigurationsdateien des Benutzers</translation>
+    </message>
+</context>
+<context>
+    <name>uEditor</name>
+    <message>
+        <location filename="../resources/ueditor.ui"/>
+        <location filename="../dialogs/ueditor.cpp" line="+69"/>
+        <source>Edit variable</source>
+        <translation>Variable bearbeiten</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Critical system variable</source>
+        <translation>Kritische Systemvariable</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Save in system directory /etc/</source>
+        <translation>Im Systemverzeichnis /etc/ speichern</translation>
+    </message>
+    <message>
+        <location filename="../dialogs/ueditor.cpp" line="-42"/>
+        <location line="+41"/>
+        <source>orv-adm-env</source>
+        <translation>orv-adm-env</translation>
+    </message>
+    <message>
+        <location line="-40"/>
+        <source>Create new variable</source>
+        <translation>Neue Variable anlegen</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Enter new variable&apos;s name here...</source>
+        <translation>Namen der neuen Variable hier eingeben...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter new variable&apos;s value here...</source>
+        <translation>Wert der neuen Variable hier eingeben...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter comments here...</source>
+        <translation>Kommentar hier eingeben...</translation>
+    </message>
+</context>
+</TS>

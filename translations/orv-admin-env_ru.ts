@@ -1,0 +1,687 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>Eve</name>
+    <message>
+        <location filename="../app/eve.cpp" line="+92"/>
+        <source>Orv environment variable editor</source>
+        <translation>Редактор переменных окружения Orv</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Orv env editor</source>
+        <translation>Редактор окружения Orv</translation>
+    </message>
+    <message>
+        <location line="+159"/>
+        <source>Help Dump</source>
+        <translation>Вывод справки</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Apply changes now?</source>
+        <translation>Применить изменения сейчас?</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Do you want to save data and apply changes now?</source>
+        <translation>Сохранить данные и применить изменения сейчас?</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>New settings have been applied!</source>
+        <translation>Новые настройки применены!</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Changes were saved successfully!</source>
+        <translation>Изменения успешно сохранены!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes were saved</source>
+        <translation>Изменения сохранены</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Changes were saved and will be applied after restarting a session!</source>
+        <translation>Изменения сохранены и вступят в силу после перезапуска сеанса!</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+82"/>
+        <location line="+19"/>
+        <source>Attention!</source>
+        <translation>Внимание!</translation>
+    </message>
+    <message>
+        <location line="-100"/>
+        <source>Unable to save changes - file access denied!</source>
+        <translation>Не удалось сохранить изменения - доступ к файлу запрещён!</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>All changes were reseted!</source>
+        <translation>Все изменения отменены!</translation>
+    </message>
+    <message>
+        <location line="+57"/>
+        <source>Changes are not saved!</source>
+        <translation>Изменения не сохранены!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Do you want to save your changes?
+ (Changes will be applied after restarting a session)</source>
+        <translation>Сохранить изменения?
+ (Изменения вступят в силу после перезапуска сеанса)</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Do you really want to reset?</source>
+        <translation>Вы действительно хотите сбросить изменения?</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>System</source>
+        <translation>Система</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Do you really want to delete SYSTEM variable located at file 
+</source>
+        <translation>Вы действительно хотите удалить СИСТЕМНУЮ переменную, находящуюся в файле 
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Do you really want to delete a variable?</source>
+        <translation>Вы действительно хотите удалить переменную?</translation>
+    </message>
+</context>
+<context>
+    <name>EveModel</name>
+    <message>
+        <location filename="../model/catalogue.cpp" line="+16"/>
+        <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
+        <translation>Домашний каталог текущего пользователя; каталог по умолчанию для встроенной команды cd. Значение этой переменной также используется при раскрытии тильды.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Your logname</source>
+        <translation>Ваше имя для входа в систему</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Your shell</source>
+        <translation>Ваша командная оболочка</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A colon-separated list of directories used as a search path for the cd built-in command.</source>
+        <translation>Список каталогов через двоеточие, используемый как путь поиска для встроенной команды cd.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>A list of characters that separate fields; used when the shell splits words as part of expansion.</source>
+        <translation>Список символов-разделителей полей; используется, когда оболочка разбивает текст на слова при раскрытии.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If this parameter is set to a file name and the MAILPATH variable is not set, Bash informs the user of the arrival of mail in the specified file.</source>
+        <translation>Если в этом параметре задано имя файла, а переменная MAILPATH не задана, Bash сообщает пользователю о поступлении почты в указанный файл.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>A colon-separated list of file names which the shell periodically checks for new mail.</source>
+        <translation>Список имён файлов через двоеточие, которые оболочка периодически проверяет на наличие новой почты.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The value of the last option argument processed by the getopts built-in.</source>
+        <translation>Значение последнего аргумента опции, обработанного встроенной командой getopts.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The index of the last option argument processed by the getopts built-in.</source>
+        <translation>Индекс последнего аргумента опции, обработанного встроенной командой getopts.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>A colon-separated list of directories in which the shell looks for commands.</source>
+        <translation>Список каталогов через двоеточие, в которых оболочка ищет команды.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The primary prompt string.</source>
+        <translation>Основная строка приглашения.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The secondary prompt string.</source>
+        <translation>Вторичная строка приглашения.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The full pathname used to execute the current instance of Bash.</source>
+        <translation>Полный путь, по которому был запущен текущий экземпляр Bash.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If this variable is set when Bash is invoked to execute a shell script, its value is expanded and used as the name of a startup file to read before executing the script.</source>
+        <translation>Если эта переменная задана при запуске Bash для выполнения сценария, её значение раскрывается и используется как имя файла запуска, который читается перед выполнением сценария.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The version number of the current instance of Bash.</source>
+        <translation>Номер версии текущего экземпляра Bash.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A read-only array variable whose members hold version information for this instance of Bash.</source>
+        <translation>Массив только для чтения, элементы которого содержат сведения о версии этого экземпляра Bash.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Used by the select built-in to determine the terminal width when printing selection lists. Automatically set upon receipt of a SIGWINCH signal.</source>
+        <translation>Используется встроенной командой select для определения ширины терминала при выводе списков выбора. Устанавливается автоматически при получении сигнала SIGWINCH.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>An index into ${COMP_WORDS} of the word containing the current cursor position.</source>
+        <translation>Индекс в ${COMP_WORDS} слова, в котором находится текущая позиция курсора.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The current command line.</source>
+        <translation>Текущая командная строка.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The numeric, real user ID of the current user.</source>
+        <translation>Числовой реальный идентификатор текущего пользователя.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Incremented by one each time a new instance of Bash is started.</source>
+        <translation>Увеличивается на единицу при каждом запуске нового экземпляра Bash.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>A colon-separated list of enabled shell options.</source>
+        <translation>Список включённых опций оболочки через двоеточие.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The default variable for the read built-in.</source>
+        <translation>Переменная по умолчанию для встроенной команды read.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>GHOSTSCRIPT library.</source>
+        <translation>Библиотека GHOSTSCRIPT.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The value of this parameter is used as a format string specifying how the timing information for pipelines prefixed with the time reserved word should be displayed.</source>
+        <translation>Значение этого параметра используется как строка формата, определяющая, как выводить сведения о времени выполнения для конвейеров, перед которыми стоит зарезервированное слово time.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Each time this parameter is referenced, a random integer between 0 and 32767 is generated. Assigning a value to this variable seeds the random number generator.</source>
+        <translation>При каждом обращении к этому параметру генерируется случайное целое число от 0 до 32767. Присваивание значения этой переменной инициализирует генератор случайных чисел.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The current working directory as set by the cd built-in command.</source>
+        <translation>Текущий рабочий каталог, установленный встроенной командой cd.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>If set, the value is interpreted as a command to execute before the printing of each primary prompt (PS1).</source>
+        <translation>Если задана, значение интерпретируется как команда, выполняемая перед выводом каждого основного приглашения (PS1).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The process ID of the shell&apos;s parent process.</source>
+        <translation>Идентификатор родительского процесса оболочки.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A string describing the operating system Bash is running on.</source>
+        <translation>Строка с описанием операционной системы, в которой работает Bash.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Used to determine the locale category for any category not specifically selected with a variable starting with LC_.</source>
+        <translation>Определяет категорию локали для всех категорий, не заданных явно переменной, начинающейся с LC_.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>This variable overrides the value of LANG and any other LC_ variable specifying a locale category.</source>
+        <translation>Эта переменная переопределяет значение LANG и всех остальных переменных LC_, задающих категорию локали.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The name of the current host.</source>
+        <translation>Имя текущего узла.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Defines whether a command is added to the history file.</source>
+        <translation>Определяет, добавляется ли команда в файл истории.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Username.</source>
+        <translation>Имя пользователя.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Holds the agent&apos;s process ID.</source>
+        <translation>Содержит идентификатор процесса агента.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Stores the desktop name.. kde, gnome or something else.</source>
+        <translation>Хранит название рабочего стола.. kde, gnome или другое.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XDG_SESSION_COOKIE: Variable set by XDG_Utils package.</source>
+        <translation>XDG_SESSION_COOKIE: переменная, устанавливаемая пакетом XDG_Utils.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>XDG_DATA_DIRS: Determines paths for directories used by XDG_Utils.</source>
+        <translation>XDG_DATA_DIRS: задаёт пути к каталогам, используемым XDG_Utils.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XCURSOR_THEME: Determines cursor theme.</source>
+        <translation>XCURSOR_THEME: задаёт тему курсора.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>XAUTHORITY: Path to file contains user cookies for authorization on X-Server.</source>
+        <translation>XAUTHORITY: путь к файлу с cookie пользователя для авторизации на X-сервере.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>WINDOWPATH: Set by X-server.</source>
+        <translation>WINDOWPATH: устанавливается X-сервером.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>WINDOWID: Set by X-server, Id of window.</source>
+        <translation>WINDOWID: устанавливается X-сервером, идентификатор окна.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USERNAME: Name of logined user.</source>
+        <translation>USERNAME: имя вошедшего в систему пользователя.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>TERM: Determines method of screen clearing, cursor moving etc, use by many programs.</source>
+        <translation>TERM: определяет способ очистки экрана, перемещения курсора и т. п., используется многими программами.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>SSH_AUTH_SOCK: Variable set by SSH, use for determine method of connection to active SSH agent.</source>
+        <translation>SSH_AUTH_SOCK: переменная, устанавливаемая SSH, определяет способ подключения к активному агенту SSH.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>SESSION_MANAGER: Location of socket using for X-session.</source>
+        <translation>SESSION_MANAGER: расположение сокета, используемого X-сеансом.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>OLDPWD: Previous work dir set by cd command.</source>
+        <translation>OLDPWD: предыдущий рабочий каталог, установленный командой cd.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>LS_COLORS: Information about color scheme used with ls command.</source>
+        <translation>LS_COLORS: сведения о цветовой схеме, используемой командой ls.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>LANGUAGE: May contain information about language.</source>
+        <translation>LANGUAGE: может содержать сведения о языке.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ID of instance of Midnight Commander.</source>
+        <translation>Идентификатор экземпляра Midnight Commander.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>LANG: Determines desirable locale.</source>
+        <translation>LANG: задаёт предпочитаемую локаль.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>KONSOLE_DCOP_SESSION: Variable set by Konsole Terminal Emulator.</source>
+        <translation>KONSOLE_DCOP_SESSION: переменная, устанавливаемая эмулятором терминала Konsole.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>KONSOLE_DCOP: Variable set by Konsole Terminal Emulator, used for Desktop COmmunication Protocol needs.</source>
+        <translation>KONSOLE_DCOP: переменная, устанавливаемая эмулятором терминала Konsole, используется для нужд протокола DCOP (Desktop COmmunication Protocol).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>KDE_MULTIHEAD: Variable set by KDE.</source>
+        <translation>KDE_MULTIHEAD: переменная, устанавливаемая KDE.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>KDE_SESSION_UID: Variable set by KDE.</source>
+        <translation>KDE_SESSION_UID: переменная, устанавливаемая KDE.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>KDE_FULL_SESSION: Variable set by KDE.</source>
+        <translation>KDE_FULL_SESSION: переменная, устанавливаемая KDE.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GTK_RC_FILES: Variable set by GTK (Gimp Toolkit Library).</source>
+        <translation>GTK_RC_FILES: переменная, устанавливаемая GTK (библиотека Gimp Toolkit).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GTK2_RC_FILES: Variable set by GTK (Gimp Toolkit Library).</source>
+        <translation>GTK2_RC_FILES: переменная, устанавливаемая GTK (библиотека Gimp Toolkit).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GDMSESSION: Contains basename of .desktop file using in current session.</source>
+        <translation>GDMSESSION: содержит базовое имя файла .desktop, используемого в текущем сеансе.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>GDM_XSERVER_LOCATION: Location of X-Server for Gnome Display Manager.</source>
+        <translation>GDM_XSERVER_LOCATION: расположение X-сервера для Gnome Display Manager.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>GDM_LANG: Language for Gnome Display Manager.</source>
+        <translation>GDM_LANG: язык для Gnome Display Manager.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DISPLAY: Contains address of computer, where additional window must be opened.</source>
+        <translation>DISPLAY: содержит адрес компьютера, на котором должны открываться окна.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>DESKTOP_STARTUP_ID: For interprocess (launcher and launchee) information exchange.</source>
+        <translation>DESKTOP_STARTUP_ID: для межпроцессного обмена информацией (между запускающим и запускаемым процессами).</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Additional property of terminal emulator.</source>
+        <translation>Дополнительное свойство эмулятора терминала.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Temp directory for Midnight Commander needs.</source>
+        <translation>Временный каталог для нужд Midnight Commander.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Since KDE4 contains the major version number.</source>
+        <translation>Начиная с KDE4 содержит основной номер версии.</translation>
+    </message>
+    <message>
+        <location filename="../model/evemodel.cpp" line="+14"/>
+        <source>Variable</source>
+        <translation>Переменная</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Origin</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <location line="+109"/>
+        <source>Request of confirmation</source>
+        <translation>Запрос подтверждения</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Really change the value of system variable?</source>
+        <translation>Действительно изменить значение системной переменной?</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>__new__</source>
+        <translation>__new__</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>VALUE</source>
+        <translation>ЗНАЧЕНИЕ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+14"/>
+        <location filename="../config/loading.cpp" line="+23"/>
+        <location filename="../config/saving.cpp" line="+11"/>
+        <source>System</source>
+        <translation>Система</translation>
+    </message>
+    <message>
+        <location filename="../config/loading.cpp" line="+44"/>
+        <source>Couldn&apos;t open file: %1 !</source>
+        <translation>Не удалось открыть файл: %1 !</translation>
+    </message>
+    <message>
+        <location filename="../config/saving.cpp" line="+30"/>
+        <location line="+25"/>
+        <source>Warning!</source>
+        <translation>Предупреждение!</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Couldn&apos;t open file %1 for saving variable %2</source>
+        <translation>Не удалось открыть файл %1 для сохранения переменной %2</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Couldn&apos;t open file %1 for deleting variable %2</source>
+        <translation>Не удалось открыть файл %1 для удаления переменной %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <location filename="../resources/mainwindow.ui"/>
+        <source>Environment Variables Editor</source>
+        <translation>Редактор переменных окружения</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <location/>
+        <source>toolBar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Add...</source>
+        <translation>&amp;Добавить...</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Ins</source>
+        <comment>Ins</comment>
+        <translation>Ins</translation>
+    </message>
+    <message>
+        <location/>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Del</source>
+        <comment>Del</comment>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Preferences...</source>
+        <translation>Параметры...</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Open Preferences dialog</source>
+        <translation>Открыть диалог параметров</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Edit...</source>
+        <translation>Изменить...</translation>
+    </message>
+</context>
+<context>
+    <name>OrvHelpMenu</name>
+    <message>
+        <location filename="../platform/orvintegration.cpp" line="+49"/>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>About...</source>
+        <translation>О программе...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>About %1</source>
+        <translation>О программе %1</translation>
+    </message>
+</context>
+<context>
+    <name>preferencesDialog</name>
+    <message>
+        <location filename="../resources/preferencesdialog.ui"/>
+        <location filename="../dialogs/preferencesdialog.cpp" line="+31"/>
+        <source>Preferences</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <location/>
+        <source>System Config Files</source>
+        <translation>Системные файлы настроек</translation>
+    </message>
+    <message>
+        <location/>
+        <source>User Config Files</source>
+        <translation>Пользовательские файлы настроек</translation>
+    </message>
+</context>
+<context>
+    <name>uEditor</name>
+    <message>
+        <location filename="../resources/ueditor.ui"/>
+        <location filename="../dialogs/ueditor.cpp" line="+69"/>
+        <source>Edit variable</source>
+        <translation>Изменение переменной</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Variable</source>
+        <translation>Переменная</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Critical system variable</source>
+        <translation>Критическая системная переменная</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Save in system directory /etc/</source>
+        <translation>Сохранить в системном каталоге /etc/</translation>
+    </message>
+    <message>
+        <location filename="../dialogs/ueditor.cpp" line="-42"/>
+        <location line="+41"/>
+        <source>orv-adm-env</source>
+        <translation>orv-adm-env</translation>
+    </message>
+    <message>
+        <location line="-40"/>
+        <source>Create new variable</source>
+        <translation>Создание новой переменной</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Enter new variable&apos;s name here...</source>
+        <translation>Введите здесь имя новой переменной...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter new variable&apos;s value here...</source>
+        <translation>Введите здесь значение новой переменной...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter comments here...</source>
+        <translation>Введите здесь комментарий...</translation>
+    </message>
+</context>
+</TS>
