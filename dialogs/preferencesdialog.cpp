@@ -104,6 +104,11 @@ void preferencesDialog::moveCurrent(QListWidget *list, int step)
 void preferencesDialog::removeCurrent(QListWidget *list)
 {
     delete list->takeItem(list->currentRow());
+    // The current-item signal came while the row was still counted; update again.
+    if (list == systemFilesList)
+        on_systemFilesList_currentItemChanged();
+    else
+        on_userFilesList_currentItemChanged();
     setModified(true);
 }
 
