@@ -13,7 +13,7 @@ case "$mode" in run | test) ;; *) usage ;; esac
 
 cd "$(dirname "$0")/.."
 
-packages="cmake make g++ qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n"
+packages="cmake make g++ qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core"
 if [ "$mode" = test ]; then
     packages="$packages xvfb xauth x11-utils xdotool openbox desktop-file-utils appstream libbenchmark-dev"
 fi
