@@ -282,12 +282,7 @@ void Eve::showPreferencesDialog()
         // The reload below drops whatever the save could not write.
         save();
     }
-    if (!model->reload())
-        return;
-    setModifiedFlag(false);
-    statusBar()->showMessage(tr("New settings have been applied!"), 2000);
-    tableView->setEnabled(true);
-    resort();
+    reloadModel(tr("New settings have been applied!"), 2000);
 }
 
 void Eve::save()
@@ -307,12 +302,16 @@ void Eve::save()
 
 void Eve::reset()
 {
-    if (!confirmReset())
-        return;
+    if (confirmReset())
+        reloadModel(tr("All changes were reseted!"), 5000);
+}
+
+void Eve::reloadModel(const QString &message, int timeout)
+{
     if (!model->reload())
         return;
     setModifiedFlag(false);
-    statusBar()->showMessage(tr("All changes were reseted!"), 5000);
+    statusBar()->showMessage(message, timeout);
     tableView->setEnabled(true);
     resort();
 }

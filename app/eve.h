@@ -48,6 +48,8 @@ private:
     bool confirmReset();
     bool confirmDelete();
     void resort();
+    // Drops unsaved changes and loads everything again.
+    void reloadModel(const QString &message, int timeout);
 
     EveModel *model = nullptr;
     QHeaderView *header = nullptr;
