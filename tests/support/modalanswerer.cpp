@@ -5,14 +5,7 @@
 #include <QDialogButtonBox>
 #include <QMessageBox>
 
-namespace {
-
-QString plain(QString text)
-{
-    return text.remove(QLatin1Char('&'));
-}
-
-QList<QAbstractButton *> buttonsOf(QWidget *widget)
+static QList<QAbstractButton *> buttonsOf(QWidget *widget)
 {
     if (auto *box = qobject_cast<QMessageBox *>(widget))
         return box->buttons();
@@ -20,8 +13,6 @@ QList<QAbstractButton *> buttonsOf(QWidget *widget)
         return buttonBox->buttons();
     return {};
 }
-
-} // namespace
 
 ModalAnswerer::ModalAnswerer(const QStringList &answers)
 {
@@ -31,21 +22,10 @@ ModalAnswerer::ModalAnswerer(const QStringList &answers)
     timer.start(10);
 }
 
-void ModalAnswerer::addAnswer(const QString &buttonText)
-{
-    addAction([buttonText](QWidget *widget) { clickButton(widget, buttonText); });
-}
-
-void ModalAnswerer::addAction(const Action &action)
-{
-    actions.append(action);
-}
-
 bool ModalAnswerer::clickButton(QWidget *widget, const QString &text)
 {
-    const QList<QAbstractButton *> buttons = buttonsOf(widget);
-    for (QAbstractButton *button : buttons) {
-        if (plain(button->text()).compare(text, Qt::CaseInsensitive) == 0) {
+    for (QAbstractButton *button : buttonsOf(widget)) {
+        if (button->text().remove(QLatin1Char('&')).compare(text, Qt::CaseInsensitive) == 0) {
             button->click();
             return true;
         }
@@ -56,25 +36,14 @@ bool ModalAnswerer::clickButton(QWidget *widget, const QString &text)
 void ModalAnswerer::poll()
 {
     QWidget *widget = QApplication::activeModalWidget();
-    if (!widget || actions.isEmpty() || !widget->isVisible())
+    if (!widget || actions.isEmpty() || !widget->isVisible() || handled.contains(widget))
         return;
-    handled.removeAll(QPointer<QWidget>());
-    for (const QPointer<QWidget> &done : qAsConst(handled)) {
-        if (done == widget)
-            return;
-    }
     handled.append(widget);
-
-    Seen record;
-    record.className = QLatin1String(widget->metaObject()->className());
-    record.title = widget->windowTitle();
+    Seen record{QLatin1String(widget->metaObject()->className()), widget->windowTitle(), {}, {}};
     if (auto *box = qobject_cast<QMessageBox *>(widget))
         record.text = box->text();
-    const QList<QAbstractButton *> buttons = buttonsOf(widget);
-    for (QAbstractButton *button : buttons)
-        record.buttons.append(plain(button->text()));
+    for (QAbstractButton *button : buttonsOf(widget))
+        record.buttons.append(button->text().remove(QLatin1Char('&')));
     seen.append(record);
-
-    const Action action = actions.takeFirst();
-    action(widget);
+    actions.takeFirst()(widget);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -28,8 +27,11 @@ public:
     using Action = std::function<void(QWidget *)>;
 
     explicit ModalAnswerer(const QStringList &answers = {});
-    void addAnswer(const QString &buttonText);
-    void addAction(const Action &action);
+    void addAnswer(const QString &text)
+    {
+        addAction([text](QWidget *widget) { clickButton(widget, text); });
+    }
+    void addAction(const Action &action) { actions.append(action); }
 
     QList<Seen> seen;
     int pending() const { return actions.size(); }

@@ -10,77 +10,45 @@
 
 #include <cstdlib>
 
-namespace {
-
-QTemporaryDir *processDir = nullptr;
-
-QString settingsDir()
-{
-    return processDir->path() + QStringLiteral("/config");
-}
-
-void resetDirectory(const QString &path)
-{
-    QDir(path).removeRecursively();
-    QDir().mkpath(path);
-}
-
-} // namespace
+static QTemporaryDir *processDir = nullptr;
 
 void Sandbox::prepareProcess()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LANG", "C");
     qputenv("LC_ALL", "C");
-    processDir = new QTemporaryDir(QDir::tempPath() + QStringLiteral("/orv-test-XXXXXX"));
+    processDir = new QTemporaryDir(QDir::tempPath() + "/orv-test-XXXXXX");
     std::atexit([] { delete processDir; });
-    const QString base = processDir->path();
+    root = processDir->path();
     for (const char *dir : {"home", "config", "runtime", "tmp", "root/etc", "root/tmp"})
-        QDir().mkpath(base + QLatin1Char('/') + QLatin1String(dir));
-    QFile::setPermissions(base + QStringLiteral("/runtime"),
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    qputenv("HOME", QFile::encodeName(home()));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settingsDir()));
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(base + QStringLiteral("/runtime")));
-    qputenv("TMPDIR", QFile::encodeName(base + QStringLiteral("/tmp")));
-    qputenv("ORV_ADMIN_ENV_SYSROOT", QFile::encodeName(sysroot()));
+        QDir(root).mkpath(dir);
+    const auto in = [](const char *dir) {
+        return root + '/' + dir;
+    };
+    QFile::setPermissions(in("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("HOME", QFile::encodeName(in("home")));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(in("config")));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(in("runtime")));
+    qputenv("TMPDIR", QFile::encodeName(in("tmp")));
+    qputenv("ORV_ADMIN_ENV_SYSROOT", QFile::encodeName(in("root")));
     SystemPaths::reloadRoot();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir());
-    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                       base + QStringLiteral("/xdg"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, in("config"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, in("xdg"));
 }
 
 Sandbox::Sandbox()
 {
-    resetDirectory(home());
-    resetDirectory(system(QStringLiteral("/etc")));
-    resetDirectory(system(QStringLiteral("/tmp")));
-    QSettings settings;
-    settings.clear();
-    settings.sync();
+    for (const QString &dir : {home(), system("/etc"), system("/tmp")}) {
+        QDir(dir).removeRecursively();
+        QDir().mkpath(dir);
+    }
+    QSettings().clear(); // written back when the QSettings goes
     setUserEnvironment();
 }
 
 Sandbox::~Sandbox()
 {
-    QSettings settings;
-    settings.clear();
-    settings.sync();
-}
-
-QString Sandbox::home()
-{
-    return processDir->path() + QStringLiteral("/home");
-}
-
-QString Sandbox::sysroot()
-{
-    return processDir->path() + QStringLiteral("/root");
-}
-
-QString Sandbox::system(const QString &path)
-{
-    return sysroot() + path;
+    QSettings().clear();
 }
 
 void Sandbox::setEnvironment(const QStringList &entries)
@@ -92,26 +60,22 @@ void Sandbox::setEnvironment(const QStringList &entries)
 
 void Sandbox::setUserEnvironment(const QStringList &extra)
 {
-    setEnvironment(QStringList{QStringLiteral("HOME=") + home(), QStringLiteral("LOGNAME=tester"),
-                               QStringLiteral("SHELL=/bin/bash"),
-                               QStringLiteral("PATH=/usr/bin:/bin")} +
-                   extra);
+    setEnvironment(
+        QStringList{"HOME=" + home(), "LOGNAME=tester", "SHELL=/bin/bash", "PATH=/usr/bin:/bin"} +
+        extra);
 }
 
 void Sandbox::writeFile(const QString &path, const QByteArray &contents)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (QFile file(path); file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         file.write(contents);
 }
 
 QByteArray Sandbox::readFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QByteArray("<unreadable>");
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
 }
 
 void Sandbox::blockPath(const QString &path)

@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
 #include <QStringList>
 
-// Keeps a test away from the real home directory, settings, /etc and /tmp.
-//
-// prepareProcess() runs before the QApplication exists: it makes one
-// temporary directory for the whole process and points HOME, XDG_CONFIG_HOME,
-// XDG_RUNTIME_DIR, TMPDIR, the settings and ORV_ADMIN_ENV_SYSROOT into it.
-// A Sandbox object per test case empties that directory and the settings.
+// Keeps a test away from the real home, settings, /etc and /tmp: prepareProcess(),
+// before the QApplication exists, points HOME, XDG_CONFIG_HOME, XDG_RUNTIME_DIR, TMPDIR,
+// the settings and ORV_ADMIN_ENV_SYSROOT into one temporary directory, which a
+// Sandbox object per test case empties along with the settings.
 class Sandbox
 {
 public:
@@ -20,10 +16,10 @@ public:
     Sandbox(const Sandbox &) = delete;
     Sandbox &operator=(const Sandbox &) = delete;
 
-    static QString home();    // the temporary HOME
-    static QString sysroot(); // what the program sees as "/"
+    static QString home() { return root + QStringLiteral("/home"); }
+    static QString sysroot() { return root + QStringLiteral("/root"); } // the program's "/"
     // A system path such as "/etc/profile" as the program sees it.
-    static QString system(const QString &path);
+    static QString system(const QString &path) { return sysroot() + path; }
 
     // Replaces the whole process environment by these NAME=VALUE entries.
     static void setEnvironment(const QStringList &entries);
@@ -34,6 +30,9 @@ public:
     static QByteArray readFile(const QString &path);
     // A directory of that name: even root cannot open it as a file.
     static void blockPath(const QString &path);
+
+private:
+    static inline QString root; // the temporary directory
 };
 
 // Use instead of QTEST_MAIN: prepares the sandbox before the application.
