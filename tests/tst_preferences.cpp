@@ -4,260 +4,95 @@
 #include "preferencesdialog.h"
 #include "sandbox.h"
 
-#include <QApplication>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QToolTip>
 #include <QtTest>
-
-namespace {
-
-QStringList texts(const QListWidget *list)
-{
-    QStringList result;
-    for (int row = 0; row < list->count(); ++row)
-        result.append(list->item(row)->text());
-    return result;
-}
-
-// One letter per enabled widget, '.' for a disabled one: OK and Apply, then the system
-// list with its Up, Down, Add and Remove buttons, then the same for the user list.
-QString states(preferencesDialog &d)
-{
-    QList<QWidget *> widgets = {d.buttonBox->button(QDialogButtonBox::Ok),
-                                d.buttonBox->button(QDialogButtonBox::Apply)};
-    for (const QString side : {"system", "user"}) {
-        for (const QString name :
-             {"FilesList", "UpButton", "DownButton", "AddButton", "RemoveButton"})
-            widgets.append(d.findChild<QWidget *>(side + name));
-    }
-    QString result = QStringLiteral("OALUDARludar");
-    for (int i = 0; i < widgets.size(); ++i)
-        result[i] = widgets[i]->isEnabled() ? result[i] : QChar('.');
-    return result.insert(7, ' ').insert(2, ' ');
-}
-
-QListWidget *list(preferencesDialog &d, const QString &side)
-{
-    return d.findChild<QListWidget *>(side + "FilesList");
-}
-
-void click(preferencesDialog &d, const QString &side, const QString &button)
-{
-    d.findChild<QPushButton *>(side + button + "Button")->click();
-}
-
-} // namespace
 
 class TestPreferences : public QObject
 {
     Q_OBJECT
 
+    // OK and Apply, then per list: the list, Up, Down, Add and Remove; '.' when disabled.
+    static QString states(preferencesDialog &d)
+    {
+        QWidgetList w{d.buttonBox->button(QDialogButtonBox::Ok),
+                      d.buttonBox->button(QDialogButtonBox::Apply)};
+        for (const QString side : {"system", "user"})
+            for (auto part : {"FilesList", "UpButton", "DownButton", "AddButton", "RemoveButton"})
+                w << d.findChild<QWidget *>(side + part);
+        QString s = "OALUDARludar";
+        for (int i = 0; i < s.size(); ++i)
+            s[i] = w[i]->isEnabled() ? s[i] : QChar('.');
+        return s.insert(7, ' ').insert(2, ' ');
+    }
+
 private slots:
-    void opening_data()
+    // "login[:shell] list files row click..." (the dialog's button, else the list's; Add picks
+    // "added"): items (~: file dialog's start), current row, states | model's lists, configFiles.
+    void clicks_data()
     {
-        QTest::addColumn<QString>("login");
-        QTest::addColumn<QSize>("stored"); // invalid: none
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QString>("states");
-        QTest::addRow("user") << "tester" << QSize() << QSize(400, 400) << ".. ..... l..a.";
-        QTest::addRow("root") << "root" << QSize(500, 450) << QSize(500, 450) << ".. L..A. l..a.";
+        QTest::addColumn<QString>("result");
+        QTest::newRow("tester user 3 -1") << "abc|-1|.. ..... l..a. | abc abc";
+        QTest::newRow("root system 3 -1") << "abc|-1|.. L..A. l..a. | abc abc";
+        QTest::newRow("root system 3 0") << "abc|0|.. L.DAR l..a. | abc abc";
+        QTest::newRow("root system 3 1") << "abc|1|.. LUDAR l..a. | abc abc";
+        QTest::newRow("root system 3 2") << "abc|2|.. LU.AR l..a. | abc abc";
+        QTest::newRow("root system 1 0") << "a|0|.. L..AR l..a. | a a";
+        QTest::newRow("root system 3 1 Up") << "bac|0|OA L.DAR l..a. | abc abc";
+        QTest::newRow("root system 3 1 Down") << "acb|2|OA LU.AR l..a. | abc abc";
+        QTest::newRow("root system 3 1 Remove") << "ac|1|OA LU.AR l..a. | abc abc";
+        QTest::newRow("root system 3 2 Remove") << "ab|1|OA LU.AR l..a. | abc abc";
+        QTest::newRow("root user 3 2 Up") << "acb|1|OA L..A. ludar | abc abc";
+        QTest::newRow("root user 3 0 Down") << "bac|1|OA L..A. ludar | abc abc";
+        QTest::newRow("root user 3 0 Remove") << "bc|0|OA L..A. l.dar | abc abc";
+        QTest::newRow("root system 1 -1 Add") << "~/open a~/added|-1|OA L..A. l..a. | a a";
+        QTest::newRow("root user 1 -1 Add") << "~/open a~/added|-1|OA L..A. l..a. | a a";
+        QTest::newRow("root user 1 -1 Add Cancel") << "~/open a|-1|.. L..A. l..a. | a a";
+        QTest::newRow("root user 2 0 Remove OK") << "b|0|OA L..A. l..ar | ab b bash=b system=ab";
+        QTest::newRow("root:tcsh user 1 0 Remove OK") << "|-1|OA L..A. l..a. | a  system=a tcsh=";
+        QTest::newRow("root:sh user 2 0 Remove OK") << "b|0|OA L..A. l..ar | ab b system=ab";
+        QTest::newRow("root system 1 0 Remove OK") << "|-1|OA L..A. l..a. |  a bash=a system=";
+        QTest::newRow("root user 2 0 Remove Apply") << "b|0|O. L..A. l..ar | ab b bash=b system=ab";
+        QTest::newRow("root user 2 0 Remove Apply Remove Cancel")
+            << "|-1|OA L..A. l..a. | ab b bash=b system=ab";
     }
-    void opening()
+    void clicks()
     {
         Sandbox sandbox;
-        QFETCH(QString, login);
-        QFETCH(QSize, stored);
-        Sandbox::setUserEnvironment({"LOGNAME=" + login});
-        if (stored.isValid())
-            QSettings().setValue("preferencesDialog/size", stored);
+        QStringList w = QString(QTest::currentDataTag()).split(' ');
+        Sandbox::setUserEnvironment(
+            w[0].prepend("LOGNAME=").replace(':', ",SHELL=/bin/").split(','));
         Eve window;
-        const EveModel *model = window.eveModel();
-        preferencesDialog d(&window, window.eveModel());
-        QTEST(states(d), "states");
-        QTEST(d.size(), "size");
-        QCOMPARE(QStringList({d.windowTitle(), d.groupBox_3->title(), d.groupBox_2->title()}),
-                 QStringList({"Preferences", "System Config Files", "User Config Files"}));
-        QVERIFY(!model->systemFiles.isEmpty() && !model->userFiles.isEmpty());
-        QCOMPARE(texts(d.systemFilesList), model->systemFiles);
-        QCOMPARE(texts(d.userFilesList), model->userFiles);
-    }
-
-    void selection_data()
-    {
-        QTest::addColumn<QString>("side");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QString>("states");
-        auto row = [](const char *tag, const QString &side, int count, int row,
-                      const char *states) {
-            QTest::newRow(tag) << side << count << row << QString(states);
-        };
-        row("system first", "system", 3, 0, ".. L.DAR l..a.");
-        row("system middle", "system", 3, 1, ".. LUDAR l..a.");
-        row("system last", "system", 3, 2, ".. LU.AR l..a.");
-        row("system single", "system", 1, 0, ".. L..AR l..a.");
-        row("user first", "user", 3, 0, ".. L..A. l.dar");
-        row("user middle", "user", 3, 1, ".. L..A. ludar");
-        row("user last", "user", 3, 2, ".. L..A. lu.ar");
-        row("user single", "user", 1, 0, ".. L..A. l..ar");
-    }
-    void selection()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, side);
-        QFETCH(int, count);
-        QFETCH(int, row);
-        Sandbox::setUserEnvironment({"LOGNAME=root"});
-        Eve window;
-        window.eveModel()->systemFiles = QStringList({"/a", "/b", "/c"}).mid(0, count);
-        window.eveModel()->userFiles = window.eveModel()->systemFiles;
-        preferencesDialog d(&window, window.eveModel());
-        list(d, side)->setCurrentRow(row);
-        QTEST(states(d), "states");
-    }
-
-    void edits_data()
-    {
-        QTest::addColumn<QString>("side");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("start");
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<QString>("states");
-        auto row = [](const QString &side, const QString &button, int start,
-                      const QStringList &files, int current, const char *states) {
-            QTest::addRow("%s %s at %d", qPrintable(side), qPrintable(button), start)
-                << side << button << start << files << current << QString(states);
-        };
-        row("system", "Up", 1, {"/b", "/a", "/c"}, 0, "OA L.DAR l..a.");
-        row("system", "Down", 1, {"/a", "/c", "/b"}, 2, "OA LU.AR l..a.");
-        row("system", "Remove", 1, {"/a", "/c"}, 1, "OA LU.AR l..a.");
-        row("system", "Remove", 2, {"/a", "/b"}, 1, "OA LU.AR l..a.");
-        row("user", "Up", 2, {"/a", "/c", "/b"}, 1, "OA L..A. ludar");
-        row("user", "Down", 0, {"/b", "/a", "/c"}, 1, "OA L..A. ludar");
-        row("user", "Remove", 0, {"/b", "/c"}, 0, "OA L..A. l.dar");
-    }
-    void edits()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, side);
-        QFETCH(QString, button);
-        QFETCH(int, start);
-        Sandbox::setUserEnvironment({"LOGNAME=root"});
-        Eve window;
-        const QStringList files = {"/a", "/b", "/c"};
-        window.eveModel()->systemFiles = window.eveModel()->userFiles = files;
-        preferencesDialog d(&window, window.eveModel());
-        list(d, side)->setCurrentRow(start);
-        click(d, side, button);
-        QTEST(texts(list(d, side)), "files");
-        QTEST(list(d, side)->currentRow(), "current");
-        QTEST(states(d), "states");
-        // Nothing reaches the model before Apply or OK.
-        QCOMPARE(window.eveModel()->systemFiles, files);
-        QCOMPARE(window.eveModel()->userFiles, files);
-    }
-
-    void add_data()
-    {
-        QTest::addColumn<QString>("side");
-        QTest::addColumn<bool>("accept");
-        for (const QString side : {"system", "user"}) {
-            QTest::addRow("%s, accepted", qPrintable(side)) << side << true;
-            QTest::addRow("%s, cancelled", qPrintable(side)) << side << false;
-        }
-    }
-    void add()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, side);
-        QFETCH(bool, accept);
-        Sandbox::setUserEnvironment({"LOGNAME=root"});
-        Eve window;
-        window.eveModel()->systemFiles = window.eveModel()->userFiles = QStringList{"/a"};
-        const QString start =
-            side == "system" ? Sandbox::system("/etc") : window.eveModel()->homeDir;
-        const QString path = start + "/added";
-        Sandbox::writeFile(path, "");
-        preferencesDialog d(&window, window.eveModel());
-
-        QString shownDir;
+        EveModel *m = window.eveModel();
+        m->systemFiles = m->userFiles = QStringList{"a", "b", "c"}.mid(0, w[2].toInt());
+        const QString start = w[1] == "system" ? Sandbox::system("/etc") : Sandbox::home();
+        Sandbox::writeFile(start + "/added", "");
+        preferencesDialog d(&window, m);
+        auto *list = d.findChild<QListWidget *>(w[1] + "FilesList");
+        list->setCurrentRow(w[3].toInt());
+        QString result;
         ModalAnswerer answerer;
         answerer.addAction([&](QWidget *widget) {
-            auto *fileDialog = qobject_cast<QFileDialog *>(widget);
-            shownDir = fileDialog ? fileDialog->directory().absolutePath() : QString();
-            // Typed, as selectFile() leaves a focused name editor alone.
-            auto *nameEdit = widget->findChild<QLineEdit *>("fileNameEdit");
-            if (fileDialog && nameEdit && accept) {
-                nameEdit->setText(path);
-                static_cast<QDialog *>(fileDialog)->accept();
-            }
-            widget->close(); // never left open, whatever went wrong
+            auto *dialog = qobject_cast<QFileDialog *>(widget);
+            result = dialog ? dialog->directory().absolutePath() + "/open " : "?";
+            if (dialog && w.last() == "Add") // typed: selectFile() skips a focused editor
+                widget->findChild<QWidget *>("fileNameEdit")->setProperty("text", start + "/added");
+            ModalAnswerer::clickButton(widget, w.last() == "Add" ? "Open" : "Cancel");
+            widget->close();
         });
-        click(d, side, "Add");
-        QCOMPARE(answerer.pending(), 0);
-        QCOMPARE(answerer.seen.size(), 1);
-        QCOMPARE(shownDir, start);
-        QCOMPARE(texts(list(d, side)), accept ? QStringList({"/a", path}) : QStringList("/a"));
-        QCOMPARE(states(d), accept ? "OA L..A. l..a." : ".. L..A. l..a.");
-    }
-
-    void store_data()
-    {
-        QTest::addColumn<QString>("shell");
-        QTest::addColumn<bool>("removeAll");
-        QTest::addColumn<bool>("applyThenCancel");
-        QTest::addColumn<QString>("userKey");
-        QTest::addRow("bash") << "/bin/bash" << false << false << "bash";
-        QTest::addRow("tcsh") << "/bin/tcsh" << false << false << "tcsh";
-        QTest::addRow("other") << "/bin/sh" << false << false << "";
-        QTest::addRow("all removed") << "/bin/bash" << true << false << "bash";
-        QTest::addRow("Apply, then Cancel") << "/bin/bash" << false << true << "bash";
-    }
-    void store()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, shell);
-        QFETCH(bool, removeAll);
-        QFETCH(bool, applyThenCancel);
-        QFETCH(QString, userKey);
-        Sandbox::setUserEnvironment({"LOGNAME=root", "SHELL=" + shell});
-        Eve window;
-        EveModel *model = window.eveModel();
-        model->systemFiles = QStringList{"/s1", "/s2"};
-        model->userFiles = QStringList{"/u1", "/u2"};
-        preferencesDialog d(&window, model);
-        d.resize(420, 430);
-        for (const QString side : {"system", "user"}) {
-            while (list(d, side)->count() > (removeAll ? 0 : 1)) {
-                list(d, side)->setCurrentRow(0);
-                click(d, side, "Remove");
-            }
-        }
-        if (applyThenCancel) {
-            d.buttonBox->button(QDialogButtonBox::Apply)->click();
-            QCOMPARE(states(d), QStringLiteral("O. L..AR l..ar"));
-            click(d, "user", "Remove"); // dropped by Cancel
-        }
-        ModalAnswerer answerer({applyThenCancel ? "Cancel" : "OK"});
-        QCOMPARE(d.exec(), int(applyThenCancel ? QDialog::Rejected : QDialog::Accepted));
-        QCOMPARE(answerer.pending(), 0);
-        const QStringList system = removeAll ? QStringList() : QStringList{"/s2"};
-        const QStringList user = removeAll ? QStringList() : QStringList{"/u2"};
-        QCOMPARE(model->systemFiles, system);
-        QCOMPARE(model->userFiles, user);
+        for (const QString &click : w.mid(4))
+            if (!ModalAnswerer::clickButton(&d, click))
+                d.findChild<QPushButton *>(w[1] + click + "Button")->click();
+        for (int row = 0; row < list->count(); ++row)
+            result += list->item(row)->text();
+        result += '|' + QString::number(list->currentRow()) + '|' + states(d);
         QSettings settings;
-        QCOMPARE(settings.value("preferencesDialog/size").toSize(), QSize(420, 430));
-        QVERIFY(settings.contains("preferencesDialog/pos"));
         settings.beginGroup("configFiles");
-        QStringList keys = QStringList{userKey, "system"}.filter(QRegExp(".+"));
-        keys.sort();
-        QCOMPARE(settings.childKeys(), keys);
-        QCOMPARE(settings.value("system").toStringList(), system);
-        QCOMPARE(settings.value(userKey).toStringList(), userKey.isEmpty() ? QStringList() : user);
+        result += " | " + m->systemFiles.join("") + ' ' + m->userFiles.join("");
+        for (const QString &key : settings.childKeys())
+            result += ' ' + key + '=' + settings.value(key).toStringList().join("");
+        QTEST(result.replace(start, "~"), "result");
     }
 
     void keys()
@@ -266,29 +101,18 @@ private slots:
         Eve window;
         preferencesDialog d(&window, window.eveModel());
         d.userAddButton->setToolTip("Adds a user file");
-        bool openAfterReturn = false;
-        bool fileDialogOpened = false;
-        QString toolTip;
+        QStringList seen;
         ModalAnswerer answerer;
-        answerer.addAction([&](QWidget *widget) {
-            // On the focused Add button: it must reach the dialog, where a disabled OK does
-            // nothing.
+        answerer.addAction([&](QWidget *dialog) {
+            ModalAnswerer files({"Cancel"}); // a file dialog would be opened from in here
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-            openAfterReturn = widget->isVisible();
-            QTest::keyClick(widget, Qt::Key_F1); // help on the focused Add button
-            toolTip = QToolTip::text();
-            QTest::keyClick(widget, Qt::Key_Escape);
-        });
-        answerer.addAction([&](QWidget *widget) {
-            fileDialogOpened = true;
-            static_cast<QDialog *>(widget)->reject();
+            QTest::keyClick(dialog, Qt::Key_F1);
+            seen << QApplication::focusWidget()->objectName() << QString::number(files.seen.size())
+                 << (dialog->isVisible() ? "open" : "shut") << QToolTip::text();
+            QTest::keyClick(dialog, Qt::Key_Escape);
         });
         QCOMPARE(d.exec(), int(QDialog::Rejected));
-        QCOMPARE(answerer.pending(), 1);
-        QVERIFY(!fileDialogOpened);
-        QVERIFY(openAfterReturn);
-        QCOMPARE(toolTip, QStringLiteral("Adds a user file"));
-        QVERIFY(QSettings().childGroups().isEmpty());
+        QCOMPARE(seen.join('|'), "userAddButton|0|open|Adds a user file");
     }
 };
 

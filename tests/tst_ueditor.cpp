@@ -3,178 +3,85 @@
 #include "sandbox.h"
 #include "ueditor.h"
 
-#include <QApplication>
-#include <QPushButton>
-#include <QSettings>
 #include <QtTest>
-
-#include <memory>
-
-namespace {
-
-// Gives the environment variable ORV_TEST a known record and makes it the current row.
-void selectTestRow(Eve &window, const QString &scope, const QString &vip)
-{
-    EveModel *model = window.eveModel();
-    auto find = [model] {
-        return model->match(model->index(0, 0), Qt::DisplayRole, "ORV_TEST", 1, Qt::MatchExactly)
-            .value(0);
-    };
-    model->setData(find(), "ORV_TEST", "one", "a note", scope, vip, QString(), Qt::EditRole);
-    window.tableView->setCurrentIndex(find());
-}
-
-bool okEnabled(uEditor &dialog)
-{
-    return dialog.buttonBox->button(QDialogButtonBox::Ok)->isEnabled();
-}
-
-} // namespace
 
 class TestUEditor : public QObject
 {
     Q_OBJECT
 
+    // On: name editor, /etc box; checked: /etc, vip box; on: value editor, OK; then the texts.
+    static QString states(uEditor &d)
+    {
+        QString s;
+        for (bool b : {d.variableEdit->isEnabled(), d.checkBox->isEnabled(),
+                       d.checkBox->isChecked(), d.vipCheck->isChecked(), d.valueEdit->isEnabled(),
+                       d.buttonBox->buttons().first()->isEnabled()})
+            s += b ? '1' : '0';
+        return s + ' ' + d.variableEdit->text() + '|' + d.valueEdit->toPlainText() + '|' +
+               d.descriptEdit->toPlainText();
+    }
+
 private slots:
-    void newDialog_data()
+    // "login scope-or-new vip value|name|description|vip-box", '<' erasing, ' ' clicking;
+    // states at opening, whether Enter and Return accept, states after.
+    void dialog_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("key"); // pressed in the value editor at the end
-        auto row = [](const char *tag, const QString &value, const QString &typed,
-                      const QString &description, const QString &name, int key = Qt::Key_Return) {
-            QTest::newRow(tag) << value << typed << description << name << key;
-        };
-        row("nothing", "", "", "", "", Qt::Key_Enter);
-        row("name only", "", "FOO", "", "FOO");
-        row("value only", "bar", "", "", "", Qt::Key_Enter);
-        row("description only", "", "", "note", "");
-        row("name, description", "", "FOO", "note", "FOO");
-        row("name erased", "bar", "FOO\b\b\b", "", "");
-        for (const char *name : {"PATH2", "my-var", "a_b", "^x", "`y", "[z]"})
-            row(name, "bar", name, "note", name);
+        QTest::addColumn<QString>("result");
+        QTest::newRow("tester new - |FOO|") << "100010 || -- 100010 FOO||";
+        QTest::newRow("tester new - bar||") << "100010 || -- 100010 |bar|";
+        QTest::newRow("root new - bar|FOO|") << "110010 || ++ 110011 FOO|bar|";
+        QTest::newRow("tester new - bar|FOO<<<|") << "100010 || -- 100010 |bar|";
+        QTest::newRow("tester new - ||note") << "100010 || -- 100010 ||note";
+        for (const char *n : {"PATH2", "my-var", "a_b", "^", "`", "["})
+            QTest::addRow("tester new - v|%s|", n) << QString("100010 || ++ 100011 %1|v|").arg(n);
         for (const char *bad : {"a b", "a.b", "a$b", "a=b"})
-            row(bad, "bar", bad, "", "ab", Qt::Key_Enter);
+            QTest::addRow("tester new - v|%s|", bad) << "100010 || ++ 100011 ab|v|";
+        QTest::newRow("tester local - x||") << "000010 V|1|d ++ 000011 V|x1|d";
+        QTest::newRow("tester global - ||x") << "001010 V|1|d ++ 001011 V|1|xd";
+        QTest::newRow("root global true ||| ") << "011100 V|1|d ++ 011011 V|1|d";
     }
-    void newDialog()
+    void dialog()
     {
         Sandbox sandbox;
-        QFETCH(QString, value);
-        QFETCH(QString, typed);
-        QFETCH(QString, description);
-        QFETCH(int, key);
+        QStringList w = QString(QTest::currentDataTag()).split(' ');
+        const QStringList typed = w.mid(3).join(' ').replace('<', '\b').split('|');
+        Sandbox::setUserEnvironment({"LOGNAME=" + w[0], "V=1"});
         Eve window;
-        uEditor dialog(&window, 0);
-        dialog.show();
-        QApplication::setActiveWindow(&dialog);
-        QVERIFY(dialog.variableEdit->isEnabled());
-        QVERIFY(!okEnabled(dialog));
-        QTest::keyClicks(dialog.valueEdit, value);
-        QTest::keyClicks(dialog.variableEdit, typed);
-        QTest::keyClicks(dialog.descriptEdit, description);
-        QTEST(dialog.variableEdit->text(), "name");
-        const bool ok = !value.isEmpty() && !dialog.variableEdit->text().isEmpty();
-        QCOMPARE(okEnabled(dialog), ok);
-
-        // Return and Enter click OK instead of breaking the line; a disabled OK ignores them.
-        QTest::keyClick(dialog.valueEdit, Qt::Key(key),
-                        key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
-        QCOMPARE(dialog.valueEdit->toPlainText(), value);
-        QCOMPARE(dialog.isVisible(), !ok);
-        QCOMPARE(dialog.result(), ok ? int(QDialog::Accepted) : 0);
-    }
-
-    void form()
-    {
-        Sandbox sandbox;
-        Eve window;
-        uEditor d(&window, 0);
-        QCOMPARE(QStringList({d.windowTitle(), d.variableEdit->placeholderText(),
-                              d.valueEdit->placeholderText(), d.descriptEdit->placeholderText(),
-                              d.label->text(), d.label_2->text(), d.descript_label->text(),
-                              d.vipCheck->text(), d.checkBox->text()}),
-                 QStringList({"Create new variable", "Enter new variable's name here...",
-                              "Enter new variable's value here...", "Enter comments here...",
-                              "Variable", "Value", "Description", "Critical system variable",
-                              "Save in system directory /etc/"}));
-        QCOMPARE(d.label->buddy(), d.variableEdit);
-        QCOMPARE(d.label_2->buddy(), d.valueEdit);
-        QCOMPARE(d.descript_label->buddy(), d.valueEdit);
-    }
-
-    void editDialog_data()
-    {
-        QTest::addColumn<QString>("vip");
-        QTest::addColumn<QString>("changed");
-        for (const QString vip : {"", "true"}) {
-            for (const QString changed : {"valueEdit", "descriptEdit", "vipCheck"})
-                QTest::addRow("vip '%s', %s", qPrintable(vip), qPrintable(changed))
-                    << vip << changed;
+        EveModel *m = window.eveModel();
+        const QModelIndex row = m->match(m->index(0, 0), Qt::DisplayRole, "V").value(0);
+        m->setData(row, "V", "1", "d", w[1], w[2].remove('-'), "", Qt::EditRole);
+        window.tableView->setCurrentIndex(row);
+        QScopedPointer<uEditor> d(w[1] == "new" ? new uEditor(&window, 0) : new uEditor(&window));
+        QString result = states(*d) + ' ';
+        const QWidgetList editors{d->valueEdit, d->variableEdit, d->descriptEdit, d->vipCheck};
+        for (int i = 0; i < typed.size(); ++i)
+            QTest::keyClicks(editors[i], typed[i]);
+        for (Qt::Key key : {Qt::Key_Enter, Qt::Key_Return}) {
+            d->setResult(0);
+            QTest::keyClick(d->valueEdit, key); // never a line break
+            result += d->result() == QDialog::Accepted ? '+' : '-';
         }
-    }
-    void editDialog()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, vip);
-        QFETCH(QString, changed);
-        Sandbox::setUserEnvironment({"ORV_TEST=one"});
-        Eve window;
-        selectTestRow(window, "local", vip);
-        uEditor d(&window);
-        QCOMPARE(QStringList({d.windowTitle(), d.variableEdit->text(), d.valueEdit->toPlainText(),
-                              d.descriptEdit->toPlainText()}),
-                 QStringList({"Edit variable", "ORV_TEST", "one", "a note"}));
-        QVERIFY(!d.variableEdit->isEnabled());
-        QCOMPARE(d.vipCheck->isChecked(), vip == "true");
-        QCOMPARE(d.valueEdit->isEnabled(), vip != "true");
-        QVERIFY(!okEnabled(d));
-
-        QWidget *widget = d.findChild<QWidget *>(changed);
-        if (auto *box = qobject_cast<QCheckBox *>(widget))
-            box->click();
-        else
-            QTest::keyClick(widget, Qt::Key_X); // ignored by a disabled value editor
-        QCOMPARE(okEnabled(d), widget->isEnabled());
-        QCOMPARE(d.valueEdit->isEnabled(), !d.vipCheck->isChecked());
+        QTEST(result + ' ' + states(*d), "result");
     }
 
-    void systemBox_data()
-    {
-        QTest::addColumn<QString>("login");
-        QTest::addColumn<QString>("scope"); // empty: the new-variable dialog
-        for (const QString login : {"tester", "root"}) {
-            for (const QString scope : {"", "global", "local"})
-                QTest::addRow("%s, %s", qPrintable(login),
-                              scope.isEmpty() ? "new" : qPrintable(scope))
-                    << login << scope;
-        }
-    }
-    void systemBox()
-    {
-        Sandbox sandbox;
-        QFETCH(QString, login);
-        QFETCH(QString, scope);
-        Sandbox::setUserEnvironment({"LOGNAME=" + login, "ORV_TEST=one"});
-        Eve window;
-        if (!scope.isEmpty())
-            selectTestRow(window, scope, QString());
-        std::unique_ptr<uEditor> dialog(scope.isEmpty() ? new uEditor(&window, 0)
-                                                        : new uEditor(&window));
-        QCOMPARE(dialog->checkBox->isEnabled(), login == "root");
-        QCOMPARE(dialog->checkBox->isChecked(), scope == "global");
-    }
-
-    void size()
+    void formAndSize()
     {
         Sandbox sandbox;
         Eve window;
-        auto dialog = std::make_unique<uEditor>(&window, 0);
-        QCOMPARE(dialog->size(), QSize(400, 400));
-        dialog->resize(300, 200);
-        dialog.reset();
-        QCOMPARE(QSettings().value("uEditor/size").toSize(), QSize(300, 200));
+        QScopedPointer<uEditor> d(new uEditor(&window, 0));
+        QCOMPARE(d->size(), QSize(400, 400));
+        QStringList form{d->windowTitle(), uEditor(&window).windowTitle()};
+        for (QLabel *label : {d->label, d->label_2, d->descript_label})
+            form << label->text() + '>' + label->buddy()->objectName();
+        for (QWidget *x :
+             QWidgetList{d->variableEdit, d->valueEdit, d->descriptEdit, d->vipCheck, d->checkBox})
+            form << x->property("placeholderText").toString() + x->property("text").toString();
+        QCOMPARE(form.join('|'), "Create new variable|Edit variable|Variable>variableEdit|Value>"
+                                 "valueEdit|Description>valueEdit|Enter new variable's name "
+                                 "here...|Enter new variable's value here...|Enter comments "
+                                 "here...|Critical system variable|Save in system directory /etc/");
+        d->resize(300, 200);
+        d.reset();
         QCOMPARE(uEditor(&window).size(), QSize(300, 200));
     }
 };
