@@ -4,7 +4,7 @@
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+92"/>
+        <location filename="../app/eve.cpp" line="+99"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -29,12 +29,12 @@
         <translation>Сохранить данные и применить изменения сейчас?</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+7"/>
         <source>New settings have been applied!</source>
         <translation>Новые настройки применены!</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+7"/>
         <source>Changes were saved successfully!</source>
         <translation>Изменения успешно сохранены!</translation>
     </message>
@@ -50,23 +50,23 @@
     </message>
     <message>
         <location line="+4"/>
-        <location line="+82"/>
+        <location line="+86"/>
         <location line="+19"/>
         <source>Attention!</source>
         <translation>Внимание!</translation>
     </message>
     <message>
-        <location line="-100"/>
+        <location line="-104"/>
         <source>Unable to save changes - file access denied!</source>
         <translation>Не удалось сохранить изменения - доступ к файлу запрещён!</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+7"/>
         <source>All changes were reseted!</source>
         <translation>Все изменения отменены!</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+65"/>
         <source>Changes are not saved!</source>
         <translation>Изменения не сохранены!</translation>
     </message>
