@@ -606,6 +606,14 @@
     </message>
 </context>
 <context>
+    <name>ToolsMenu</name>
+    <message>
+        <location filename="../app/toolsmenu.cpp" line="+12"/>
+        <source>&amp;Tools</source>
+        <translation>С&amp;ервис</translation>
+    </message>
+</context>
+<context>
     <name>preferencesDialog</name>
     <message>
         <location filename="../resources/preferencesdialog.ui"/>
