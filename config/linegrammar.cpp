@@ -2,22 +2,6 @@
 
 namespace LineGrammar {
 
-namespace {
-
-// True when the name means itself as a pattern, so a plain substring test
-// can skip the lines that cannot match.
-bool isLiteralName(const QString &name)
-{
-    for (const QChar c : name) {
-        if (!(c.isLetterOrNumber() && c.unicode() < 128) && c != QLatin1Char('_') &&
-            c != QLatin1Char('-'))
-            return false;
-    }
-    return !name.isEmpty();
-}
-
-} // namespace
-
 ExportMatcher::ExportMatcher()
     : rx(QStringLiteral("\\bexport\\b\\s+\\b(\\w+)=(.+)\\b"), Qt::CaseSensitive, QRegExp::RegExp)
 {}
@@ -54,24 +38,67 @@ QString quoteValue(const QString &value)
     return quoted;
 }
 
+bool isLiteralName(const QString &name)
+{
+    // The characters with a meaning in QRegExp's RegExp syntax.
+    static const QString special = QStringLiteral("\\^$.[]|()*+?{}");
+    for (const QChar c : name) {
+        if (special.contains(c))
+            return false;
+    }
+    return true;
+}
+
+bool rewriteAssignment(QString &line, const QString &name, const QString &assignment)
+{
+    if (!isLiteralName(name)) {
+        const QString before = line;
+        line.replace(QRegExp(name + QStringLiteral("=.*"), Qt::CaseSensitive, QRegExp::RegExp),
+                     assignment);
+        return line != before;
+    }
+    // The pattern's ".*" runs to the end of the line, so only the first
+    // occurrence matters.
+    const int at = line.indexOf(name + QLatin1Char('='));
+    if (at < 0)
+        return false;
+    const QString rewritten = line.left(at) + assignment;
+    if (rewritten == line)
+        return false;
+    line = rewritten;
+    return true;
+}
+
+bool blankExport(QString &line, const QString &name)
+{
+    if (!isLiteralName(name)) {
+        const QString before = line;
+        line.replace(QRegExp(QStringLiteral("export.*") + name + QStringLiteral("=.*"),
+                             Qt::CaseSensitive, QRegExp::RegExp),
+                     QStringLiteral(" "));
+        return line != before;
+    }
+    // The match starts at the first "export" exactly when the last "NAME="
+    // of the line begins after it; any later "export" could only do worse.
+    static const QString keyword = QStringLiteral("export");
+    const int start = line.indexOf(keyword);
+    if (start < 0 || line.lastIndexOf(name + QLatin1Char('=')) < start + keyword.size())
+        return false;
+    const QString blanked = line.left(start) + QLatin1Char(' ');
+    if (blanked == line)
+        return false;
+    line = blanked;
+    return true;
+}
+
 void writeAssignment(QStringList &lines, const QString &name, const QString &quotedValue)
 {
-    const QRegExp rx(name + QStringLiteral("=.*"), Qt::CaseSensitive, QRegExp::RegExp);
     const QString assignment = name + QLatin1Char('=') + quotedValue;
-    const QString literal = name + QLatin1Char('=');
-    const bool literalName = isLiteralName(name);
-
     bool found = false;
     for (QString &line : lines) {
-        if (literalName && !line.contains(literal))
-            continue;
-        line.replace(rx, assignment);
-    }
-    for (const QString &line : qAsConst(lines)) {
-        if (line.contains(assignment, Qt::CaseInsensitive)) {
-            found = true;
-            break;
-        }
+        rewriteAssignment(line, name, assignment);
+        // A rewritten line holds the assignment; others may in another case.
+        found = found || line.contains(assignment, Qt::CaseInsensitive);
     }
     if (!found)
         lines.prepend(QStringLiteral("export ") + assignment);
@@ -79,14 +106,8 @@ void writeAssignment(QStringList &lines, const QString &name, const QString &quo
 
 void blankExport(QStringList &lines, const QString &name)
 {
-    const QRegExp rx(QStringLiteral("export.*") + name + QStringLiteral("=.*"), Qt::CaseSensitive,
-                     QRegExp::RegExp);
-    const bool literalName = isLiteralName(name);
-    for (QString &line : lines) {
-        if (literalName && !line.contains(name + QLatin1Char('=')))
-            continue;
-        line.replace(rx, QStringLiteral(" "));
-    }
+    for (QString &line : lines)
+        blankExport(line, name);
 }
 
 } // namespace LineGrammar

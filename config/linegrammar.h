@@ -30,6 +30,20 @@ QStringList splitEnvironmentEntry(const QString &entry);
 // when it holds a space.
 QString quoteValue(const QString &value);
 
+// True when a name means itself inside the save's patterns "NAME=.*" and
+// "export.*NAME=.*", so the edits below can search for it as plain text.
+bool isLiteralName(const QString &name);
+
+// The save's edit of one line for a variable: everything from the first
+// "NAME=" to the end of the line becomes `assignment`. Returns whether the
+// line changed. Linear in the length of the line for literal names.
+bool rewriteAssignment(QString &line, const QString &name, const QString &assignment);
+
+// The deletion's edit of one line: from the first "export" to the end of the
+// line becomes one space, when "NAME=" follows that "export" somewhere.
+// Returns whether the line changed.
+bool blankExport(QString &line, const QString &name);
+
 // Replaces every "NAME=..." up to the end of a line by "NAME=value"; when no
 // line then holds that assignment, an export line for it goes first.
 void writeAssignment(QStringList &lines, const QString &name, const QString &quotedValue);
