@@ -1,53 +1,75 @@
+#include "backups.h"
 #include "evemodel.h"
-#include "linefile.h"
-#include "linegrammar.h"
+#include "safefile.h"
+#include "saveplan.h"
 
-#include <QFile>
 #include <QMessageBox>
 #include <QSettings>
 
+namespace {
+
+// Writes one planned file: a copy of what it held goes to the backups first,
+// then the checked rewrite in place. Returns the reason of a failure, or a
+// null string.
+QString commit(const SavePlan::File &file)
+{
+    if (file.existed && file.after == file.before)
+        return QString();
+    QString error;
+    QString copy;
+    if (file.existed) {
+        // Without a copy (no writable data folder) the save still goes on.
+        QString ignored;
+        copy = Backups::keep(file.path, file.before, &ignored);
+    }
+    bool restored = true;
+    if (SafeFile::rewrite(file.path, file.existed, file.before, file.after, &error, &restored))
+        return QString();
+    if (!restored && !copy.isEmpty())
+        error += QLatin1Char(' ') +
+                 EveModel::tr("Its content from before the save is kept in %1.").arg(copy);
+    return error;
+}
+
+} // namespace
+
 bool EveModel::save()
 {
-    const QString system = tr("System");
-    const QList<QStringList> snapshot = rows;
-    for (const QStringList &row : snapshot) {
-        if (row.value(PreviousColumn).isEmpty())
-            continue;
-        const QString name = row.value(VariableColumn);
+    const SavePlan plan =
+        planSave({rows, deletedRows, rootSession, localFile, globalFile, tr("System")});
 
-        // Stored first, so the description survives a file that cannot be written.
-        {
-            QSettings settings;
-            settings.beginGroup(QStringLiteral("variables/") + name);
-            settings.setValue(QStringLiteral("description"), row.value(DescriptionColumn));
-            settings.setValue(QStringLiteral("vip"), row.value(VipColumn));
+    // Stored first, so descriptions survive a file that cannot be written.
+    if (!plan.settings.isEmpty()) {
+        QSettings settings;
+        for (const SavePlan::Settings &entry : plan.settings) {
+            settings.beginGroup(QStringLiteral("variables/") + entry.name);
+            settings.setValue(QStringLiteral("description"), entry.description);
+            settings.setValue(QStringLiteral("vip"), entry.vip);
             settings.endGroup();
         }
+    }
 
-        // A variable that a file already exports goes back to that file; new
-        // and environment-only ones go to the user's or the system-wide file.
-        QString target = localFile;
-        if (rootSession && row.value(ScopeColumn) == QLatin1String("global"))
-            target = globalFile;
-        const QString fallback = target;
-        if (row.value(OriginColumn) != system)
-            target = row.value(OriginColumn);
-
-        QFile file(target);
-        if (!openForRewrite(file)) {
-            file.setFileName(fallback);
-            if (!openForRewrite(file)) {
-                QMessageBox::warning(
-                    nullptr, tr("Warning!"),
-                    tr("Couldn't open file %1 for saving variable %2").arg(fallback, name),
-                    QMessageBox::Ok);
-                return false;
-            }
+    QVector<bool> written(plan.files.size(), false);
+    for (int i = 0; i < plan.files.size(); ++i) {
+        const SavePlan::File &file = plan.files.at(i);
+        if (file.savedNames.isEmpty())
+            continue;
+        const QString error = commit(file);
+        if (!error.isNull()) {
+            QMessageBox::warning(nullptr, tr("Warning!"),
+                                 tr("Couldn't write file %1 for saving variable %2: %3")
+                                     .arg(file.path, file.savedNames.first(), error),
+                                 QMessageBox::Ok);
+            return false;
         }
-        const QString value = LineGrammar::quoteValue(row.value(ValueColumn));
-        rewriteLines(file, [&name, &value](QStringList &lines) {
-            LineGrammar::writeAssignment(lines, name, value);
-        });
+        written[i] = true;
+    }
+    if (plan.stopped) {
+        QMessageBox::warning(nullptr, tr("Warning!"),
+                             tr("Couldn't open file %1 for saving variable %2")
+                                 .arg(plan.stoppedPath, plan.stoppedName),
+                             QMessageBox::Ok);
+        return false;
     }
 
     for (QStringList &row : rows) {
@@ -55,20 +77,24 @@ bool EveModel::save()
             row[PreviousColumn].clear();
     }
 
-    for (const QStringList &row : qAsConst(deletedRows)) {
-        const QString origin = row.value(OriginColumn);
-        if (origin == system)
-            continue;
-        const QString name = row.value(VariableColumn);
-        QFile file(origin);
-        if (!openForRewrite(file)) {
-            QMessageBox::warning(
-                nullptr, tr("Warning!"),
-                tr("Couldn't open file %1 for deleting variable %2").arg(origin, name),
-                QMessageBox::Ok);
+    for (const SavePlan::Deletion &deletion : plan.deletions) {
+        if (deletion.file < 0) {
+            QMessageBox::warning(nullptr, tr("Warning!"),
+                                 tr("Couldn't open file %1 for deleting variable %2")
+                                     .arg(deletion.path, deletion.name),
+                                 QMessageBox::Ok);
             continue;
         }
-        rewriteLines(file, [&name](QStringList &lines) { LineGrammar::blankExport(lines, name); });
+        if (written.at(deletion.file))
+            continue;
+        written[deletion.file] = true;
+        const QString error = commit(plan.files.at(deletion.file));
+        if (!error.isNull()) {
+            QMessageBox::warning(nullptr, tr("Warning!"),
+                                 tr("Couldn't write file %1 for deleting variable %2: %3")
+                                     .arg(deletion.path, deletion.name, error),
+                                 QMessageBox::Ok);
+        }
     }
     deletedRows.clear();
     return true;

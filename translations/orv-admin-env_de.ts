@@ -481,7 +481,7 @@
         <location line="+0"/>
         <location line="+14"/>
         <location filename="../config/loading.cpp" line="+23"/>
-        <location filename="../config/saving.cpp" line="+11"/>
+        <location filename="../config/saving.cpp" line="+39"/>
         <source>System</source>
         <translation>System</translation>
     </message>
@@ -491,20 +491,37 @@
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
     <message>
-        <location filename="../config/saving.cpp" line="+30"/>
-        <location line="+25"/>
+        <location filename="../config/saving.cpp" line="-9"/>
+        <source>Its content from before the save is kept in %1.</source>
+        <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <location line="+9"/>
+        <location line="+14"/>
+        <location line="+11"/>
         <source>Warning!</source>
         <translation>Warnung!</translation>
     </message>
     <message>
-        <location line="-24"/>
+        <location line="-33"/>
+        <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
+        <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geschrieben werden: %3</translation>
+    </message>
+    <message>
+        <location line="+9"/>
         <source>Couldn&apos;t open file %1 for saving variable %2</source>
         <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geöffnet werden</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+14"/>
         <source>Couldn&apos;t open file %1 for deleting variable %2</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
+        <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
 </context>
 <context>
@@ -603,6 +620,29 @@
         <location line="+12"/>
         <source>About %1</source>
         <translation>Über %1</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFile</name>
+    <message>
+        <location filename="../config/safefile.cpp" line="+29"/>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine reguläre Datei</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>it belongs to another user or has more than one name</source>
+        <translation>sie gehört einem anderen Benutzer oder hat mehr als einen Namen</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>it could not be read completely</source>
+        <translation>sie konnte nicht vollständig gelesen werden</translation>
+    </message>
+    <message>
+        <location line="+143"/>
+        <source>another program changed it during the save</source>
+        <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
     </message>
 </context>
 <context>

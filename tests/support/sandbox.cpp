@@ -28,6 +28,7 @@ void Sandbox::prepareProcess()
     QFile::setPermissions(in("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("HOME", QFile::encodeName(in("home")));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(in("config")));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(data()));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(in("runtime")));
     qputenv("TMPDIR", QFile::encodeName(in("tmp")));
     qputenv("ORV_ADMIN_ENV_SYSROOT", QFile::encodeName(in("root")));

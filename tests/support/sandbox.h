@@ -3,9 +3,9 @@
 #include <QStringList>
 
 // Keeps a test away from the real home, settings, /etc and /tmp: prepareProcess(),
-// before the QApplication exists, points HOME, XDG_CONFIG_HOME, XDG_RUNTIME_DIR, TMPDIR,
-// the settings and ORV_ADMIN_ENV_SYSROOT into one temporary directory, which a
-// Sandbox object per test case empties along with the settings.
+// before the QApplication exists, points HOME, XDG_CONFIG_HOME, XDG_DATA_HOME, XDG_RUNTIME_DIR,
+// TMPDIR, the settings and ORV_ADMIN_ENV_SYSROOT into one temporary directory, which a Sandbox
+// object per test case empties along with the settings.
 class Sandbox
 {
 public:
@@ -17,6 +17,8 @@ public:
     Sandbox &operator=(const Sandbox &) = delete;
 
     static QString home() { return root + QStringLiteral("/home"); }
+    // The data folder, also where a test's own environment leaves it.
+    static QString data() { return home() + QStringLiteral("/.local/share"); }
     static QString sysroot() { return root + QStringLiteral("/root"); } // the program's "/"
     // A system path such as "/etc/profile" as the program sees it.
     static QString system(const QString &path) { return sysroot() + path; }
