@@ -214,9 +214,23 @@ void EveModel::sort(int column, Qt::SortOrder order)
         });
         QList<QStringList> sorted;
         sorted.reserve(rows.size());
-        for (const int i : byText)
-            sorted.append(rows.at(i));
+        std::vector<int> newRow(byText.size());
+        for (int row = 0; row < int(byText.size()); ++row) {
+            sorted.append(rows.at(byText[size_t(row)]));
+            newRow[size_t(byText[size_t(row)])] = row;
+        }
         rows.swap(sorted);
+
+        // The selection and the current index stay on their variables.
+        const QModelIndexList from = persistentIndexList();
+        QModelIndexList to;
+        to.reserve(from.size());
+        for (const QModelIndex &index : from) {
+            to.append(index.row() < int(newRow.size())
+                          ? this->index(newRow[size_t(index.row())], index.column())
+                          : index);
+        }
+        changePersistentIndexList(from, to);
     }
     emit layoutChanged();
 }
