@@ -4,12 +4,16 @@
 #include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QThread>
 #include <QWidget>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -35,18 +39,23 @@ QString instanceKey()
     return QStringLiteral("qtsingleapp-%1-%2").arg(name).arg(::getuid());
 }
 
+// Private to the user where the session provides such a folder; the shared
+// temporary folder otherwise.
+QString runtimeDirectory()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return runtime.isEmpty() ? QDir::tempPath() : runtime;
+}
+
 } // namespace
 
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool GUIenabled)
     : QApplication(argc, argv)
 {
     Q_UNUSED(GUIenabled)
-    const QString base = QDir::tempPath() + QLatin1Char('/') + instanceKey();
+    const QString base = runtimeDirectory() + QLatin1Char('/') + instanceKey();
     m_serverName = base + QStringLiteral(".sock");
-    m_lock = std::make_unique<QLockFile>(base + QStringLiteral(".lock"));
-    // Only a dead owner makes the lock stale: a long-running first instance
-    // must keep it however old the file gets.
-    m_lock->setStaleLockTime(0);
+    m_lockName = base + QStringLiteral(".lock");
     tryBecomeFirst();
 }
 
@@ -58,20 +67,31 @@ QtSingleApplication::~QtSingleApplication()
         m_server->close();
     delete m_server;
     m_server = nullptr;
-    m_lock.reset();
+    if (m_lockFd >= 0)
+        ::close(m_lockFd);
 }
 
 bool QtSingleApplication::tryBecomeFirst()
 {
     if (m_first)
         return true;
-    if (!m_lock->tryLock(0)) {
-        if (m_lock->error() == QLockFile::LockFailedError)
-            return false;
-        // The lock cannot be used at all (e.g. the temp dir is read-only).
-        // Better to run without the single-instance guarantee than to
-        // refuse to start.
+    if (m_lockFd < 0) {
+        // No link followed, and only our own file counts: in a shared folder
+        // another user could have put one there.
+        m_lockFd = ::open(QFile::encodeName(m_lockName).constData(),
+                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+        struct stat info;
+        if (m_lockFd >= 0 && (::fstat(m_lockFd, &info) != 0 || !S_ISREG(info.st_mode) ||
+                              info.st_uid != ::geteuid())) {
+            ::close(m_lockFd);
+            m_lockFd = -1;
+        }
     }
+    if (m_lockFd >= 0 && ::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return false;
+    // Locked, or the lock cannot be used at all (e.g. a read-only folder):
+    // better to run without the single-instance guarantee than to refuse to
+    // start.
     m_first = true;
 
     m_server = new QLocalServer(this);

@@ -5,16 +5,16 @@
 #include <QPointer>
 #include <QString>
 
-#include <memory>
-
 class QLocalServer;
 class QLocalSocket;
-class QLockFile;
 class QWidget;
 
 // One running instance per user and program. The first instance holds a lock
-// file and listens on a local socket; later ones find the lock taken and can
-// hand their request (e.g. "raise") to the first one with sendMessage().
+// on a file in the user's runtime folder ($XDG_RUNTIME_DIR, else the temporary
+// folder) and listens on a local socket there; later ones find the lock taken
+// and can hand their request (e.g. "raise") to the first one with
+// sendMessage(). The kernel drops the lock when its owner ends in any way, so
+// a crash never blocks the next start.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
@@ -41,7 +41,8 @@ private:
     void readMessages(QLocalSocket *socket);
 
     QString m_serverName;
-    std::unique_ptr<QLockFile> m_lock;
+    QString m_lockName;
+    int m_lockFd = -1;
     QLocalServer *m_server = nullptr;
     bool m_first = false;
     QPointer<QWidget> m_window;

@@ -60,7 +60,7 @@ private slots:
     }
     void killedFirstInstanceIsReplaced()
     {
-        qputenv("TMPDIR", QFile::encodeName(Sandbox::home())); // children apart from us
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Sandbox::home())); // children apart from us
         QProcess first, next, sender;
         start(first);
         QVERIFY(first.waitForReadyRead());
