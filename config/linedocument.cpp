@@ -89,9 +89,17 @@ void LineDocument::forEachLine(Visit visit)
         visit(i);
 }
 
-bool LineDocument::useIndex(const QString &name) const
+template <typename Visit>
+void LineDocument::forLinesWith(const LineGrammar::LineEdits &lineEdits, const QString &name,
+                                Visit visit)
 {
-    return edits > scannedEdits && !hasSurrogates(name);
+    if (lineEdits.isLiteral() && edits > scannedEdits && !hasSurrogates(name)) {
+        const QVector<LineRef> refs = candidates(name);
+        for (const LineRef ref : refs)
+            visit(ref);
+    } else {
+        forEachLine(visit);
+    }
 }
 
 void LineDocument::indexLine(LineRef ref)
@@ -148,26 +156,25 @@ void LineDocument::writeAssignment(const QString &name, const QString &quotedVal
 {
     ++edits;
     const QString assignment = name + QLatin1Char('=') + quotedValue;
+    const LineGrammar::LineEdits lineEdits(name);
     QVector<LineRef> changed;
-    bool found = false;
-
-    const auto rewrite = [&](LineRef ref) {
+    bool matched = false;
+    forLinesWith(lineEdits, name, [&](LineRef ref) {
         QString text = line(ref).text;
-        if (LineGrammar::rewriteAssignment(text, name, assignment)) {
+        const auto result = lineEdits.rewriteAssignment(text, assignment);
+        matched = matched || result != LineGrammar::LineEdits::NoMatch;
+        if (result == LineGrammar::LineEdits::Changed) {
             setText(ref, text);
             changed.append(ref);
         }
-        // A rewritten line holds the assignment; others may in another case.
-        found = found || text.contains(assignment, Qt::CaseInsensitive);
-    };
-    if (LineGrammar::isLiteralName(name) && useIndex(name)) {
-        const QVector<LineRef> refs = candidates(name);
-        for (const LineRef ref : refs)
-            rewrite(ref);
-    } else {
-        forEachLine(rewrite);
+    });
+    // A rewritten line holds the assignment; others may in another case.
+    bool found = matched;
+    if (!found) {
+        forLinesWith(lineEdits, name, [&](LineRef ref) {
+            found = found || line(ref).text.contains(assignment, Qt::CaseInsensitive);
+        });
     }
-
     if (!found) {
         prepend(QStringLiteral("export ") + assignment);
         changed.append(-front.size());
@@ -211,20 +218,14 @@ void LineDocument::writeAssignment(const QString &name, const QString &quotedVal
 void LineDocument::blankExport(const QString &name)
 {
     ++edits;
-    const auto blank = [&](LineRef ref) {
+    const LineGrammar::LineEdits lineEdits(name);
+    forLinesWith(lineEdits, name, [&](LineRef ref) {
         QString text = line(ref).text;
-        if (LineGrammar::blankExport(text, name)) {
+        if (lineEdits.blankExport(text)) {
             // One space and what stood before "export": nothing to re-read.
             setText(ref, text);
             line(ref).bytes = text.toUtf8();
             line(ref).written = edits;
         }
-    };
-    if (LineGrammar::isLiteralName(name) && useIndex(name)) {
-        const QVector<LineRef> refs = candidates(name);
-        for (const LineRef ref : refs)
-            blank(ref);
-    } else {
-        forEachLine(blank);
-    }
+    });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "linegrammar.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -43,7 +45,10 @@ private:
     // Lines that may hold `name` followed by "=", in any letter case; a
     // superset, in no particular order.
     QVector<LineRef> candidates(const QString &name);
-    bool useIndex(const QString &name) const;
+    // Visits the lines an edit for the name may change: those the index
+    // gives, or all.
+    template <typename Visit>
+    void forLinesWith(const LineGrammar::LineEdits &lineEdits, const QString &name, Visit visit);
     void buildIndex();
     void indexLine(LineRef ref);
     void setText(LineRef ref, const QString &text);

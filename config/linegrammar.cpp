@@ -1,5 +1,7 @@
 #include "linegrammar.h"
 
+#include <algorithm>
+
 namespace LineGrammar {
 
 ExportMatcher::ExportMatcher()
@@ -49,65 +51,78 @@ bool isLiteralName(const QString &name)
     return true;
 }
 
-bool rewriteAssignment(QString &line, const QString &name, const QString &assignment)
+LineEdits::LineEdits(const QString &name)
+    : literal(isLiteralName(name))
+    , needle(name + QLatin1Char('='))
+    , matcher(needle)
 {
-    if (!isLiteralName(name)) {
+    if (!literal) {
+        assignmentPattern =
+            QRegExp(name + QStringLiteral("=.*"), Qt::CaseSensitive, QRegExp::RegExp);
+        exportPattern = QRegExp(QStringLiteral("export.*") + name + QStringLiteral("=.*"),
+                                Qt::CaseSensitive, QRegExp::RegExp);
+    }
+}
+
+LineEdits::Rewrite LineEdits::rewriteAssignment(QString &line, const QString &assignment) const
+{
+    if (!literal) {
+        if (assignmentPattern.indexIn(line) < 0)
+            return NoMatch;
         const QString before = line;
-        line.replace(QRegExp(name + QStringLiteral("=.*"), Qt::CaseSensitive, QRegExp::RegExp),
-                     assignment);
-        return line != before;
+        line.replace(assignmentPattern, assignment);
+        return line == before ? Unchanged : Changed;
     }
     // The pattern's ".*" runs to the end of the line, so only the first
     // occurrence matters.
-    const int at = line.indexOf(name + QLatin1Char('='));
+    const int at = matcher.indexIn(line);
     if (at < 0)
-        return false;
-    const QString rewritten = line.left(at) + assignment;
-    if (rewritten == line)
-        return false;
-    line = rewritten;
-    return true;
+        return NoMatch;
+    if (line.midRef(at) == assignment)
+        return Unchanged;
+    line.truncate(at);
+    line += assignment;
+    return Changed;
 }
 
-bool blankExport(QString &line, const QString &name)
+bool LineEdits::blankExport(QString &line) const
 {
-    if (!isLiteralName(name)) {
+    if (!literal) {
         const QString before = line;
-        line.replace(QRegExp(QStringLiteral("export.*") + name + QStringLiteral("=.*"),
-                             Qt::CaseSensitive, QRegExp::RegExp),
-                     QStringLiteral(" "));
+        line.replace(exportPattern, QStringLiteral(" "));
         return line != before;
     }
     // The match starts at the first "export" exactly when the last "NAME="
     // of the line begins after it; any later "export" could only do worse.
     static const QString keyword = QStringLiteral("export");
     const int start = line.indexOf(keyword);
-    if (start < 0 || line.lastIndexOf(name + QLatin1Char('=')) < start + keyword.size())
+    if (start < 0 || line.lastIndexOf(needle) < start + keyword.size())
         return false;
-    const QString blanked = line.left(start) + QLatin1Char(' ');
-    if (blanked == line)
-        return false;
-    line = blanked;
+    line.truncate(start);
+    line += QLatin1Char(' ');
     return true;
 }
 
 void writeAssignment(QStringList &lines, const QString &name, const QString &quotedValue)
 {
     const QString assignment = name + QLatin1Char('=') + quotedValue;
-    bool found = false;
-    for (QString &line : lines) {
-        rewriteAssignment(line, name, assignment);
-        // A rewritten line holds the assignment; others may in another case.
-        found = found || line.contains(assignment, Qt::CaseInsensitive);
-    }
-    if (!found)
+    const LineEdits edits(name);
+    bool matched = false;
+    for (QString &line : lines)
+        matched = edits.rewriteAssignment(line, assignment) != LineEdits::NoMatch || matched;
+    // A rewritten line holds the assignment; others may in another case.
+    const auto holds = [&assignment](const QString &line) {
+        return line.contains(assignment, Qt::CaseInsensitive);
+    };
+    if (!matched && std::none_of(lines.cbegin(), lines.cend(), holds))
         lines.prepend(QStringLiteral("export ") + assignment);
 }
 
 void blankExport(QStringList &lines, const QString &name)
 {
+    const LineEdits edits(name);
     for (QString &line : lines)
-        blankExport(line, name);
+        edits.blankExport(line);
 }
 
 } // namespace LineGrammar

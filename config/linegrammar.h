@@ -2,6 +2,7 @@
 
 #include <QRegExp>
 #include <QStringList>
+#include <QStringMatcher>
 
 // The one line grammar of the start-up files, "export NAME=VALUE", as plain
 // text functions.
@@ -34,15 +35,31 @@ QString quoteValue(const QString &value);
 // "export.*NAME=.*", so the edits below can search for it as plain text.
 bool isLiteralName(const QString &name);
 
-// The save's edit of one line for a variable: everything from the first
-// "NAME=" to the end of the line becomes `assignment`. Returns whether the
-// line changed. Linear in the length of the line for literal names.
-bool rewriteAssignment(QString &line, const QString &name, const QString &assignment);
+// The save's edits of single lines for one variable, with what they search
+// for prepared once. For a literal name they are plain searches, linear in
+// the length of the line, with exactly the results of the patterns
+// "NAME=.*" and "export.*NAME=.*"; any other name is used as the pattern.
+class LineEdits
+{
+public:
+    explicit LineEdits(const QString &name);
+    bool isLiteral() const { return literal; }
 
-// The deletion's edit of one line: from the first "export" to the end of the
-// line becomes one space, when "NAME=" follows that "export" somewhere.
-// Returns whether the line changed.
-bool blankExport(QString &line, const QString &name);
+    enum Rewrite { NoMatch, Unchanged, Changed };
+    // Everything from the first "NAME=" to the end of the line becomes
+    // `assignment`.
+    Rewrite rewriteAssignment(QString &line, const QString &assignment) const;
+    // From the first "export" to the end of the line becomes one space, when
+    // "NAME=" follows that "export" somewhere. Returns whether the line changed.
+    bool blankExport(QString &line) const;
+
+private:
+    bool literal;
+    QString needle; // NAME=
+    QStringMatcher matcher;
+    QRegExp assignmentPattern;
+    QRegExp exportPattern;
+};
 
 // Replaces every "NAME=..." up to the end of a line by "NAME=value"; when no
 // line then holds that assignment, an export line for it goes first.

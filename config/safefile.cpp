@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -100,9 +101,10 @@ bool readAll(int fd, QByteArray *bytes, QString *error)
     return true;
 }
 
-bool writeAll(int fd, const QByteArray &bytes)
+// Writes the bytes from `from` on to the same place in the file.
+bool writeAll(int fd, const QByteArray &bytes, qint64 from = 0)
 {
-    qint64 done = 0;
+    qint64 done = from;
     while (done < bytes.size()) {
         const ssize_t put =
             ::pwrite(fd, bytes.constData() + done, size_t(bytes.size() - done), done);
@@ -156,9 +158,17 @@ bool reserve(int fd, qint64 size)
     return errno == EOPNOTSUPP || errno == ENOSYS;
 }
 
-bool putBack(int fd, const QByteArray &before)
+bool putBack(int fd, const QByteArray &before, qint64 from)
 {
-    return writeAll(fd, before) && ::ftruncate(fd, before.size()) == 0 && ::fsync(fd) == 0;
+    return writeAll(fd, before, from) && ::ftruncate(fd, before.size()) == 0 && ::fsync(fd) == 0;
+}
+
+// Where two contents start to differ: the bytes before it stay as they are.
+qint64 firstDifference(const QByteArray &a, const QByteArray &b)
+{
+    const int common = qMin(a.size(), b.size());
+    return std::mismatch(a.constBegin(), a.constBegin() + common, b.constBegin()).first -
+           a.constBegin();
 }
 
 } // namespace
@@ -248,13 +258,14 @@ bool rewrite(const QString &path, bool existed, const QByteArray &before, const 
     }
 
     // From here on old bytes change: any failure puts them back.
-    const bool written = writeAll(fd, after) &&
+    const qint64 from = firstDifference(before, after);
+    const bool written = writeAll(fd, after, from) &&
                          (after.size() >= before.size() || ::ftruncate(fd, after.size()) == 0) &&
                          ::fsync(fd) == 0;
     if (written)
         return true;
     *error = systemError(errno);
-    *restored = putBack(fd, before);
+    *restored = putBack(fd, before, from);
     return false;
 }
 

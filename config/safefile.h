@@ -25,7 +25,8 @@ Contents read(const QString &path);
 // Rewrites a file in place: same inode, owner, mode and hard links, and a
 // symbolic link keeps pointing at it. The file must still hold `before`;
 // room for `after` is reserved before any old byte changes, the new bytes
-// are written from the start, the file is cut to their length and synced.
+// are written from where they first differ, the file is cut to their length
+// and synced.
 // On any failure `before` is put back (a file the call created is left
 // empty) and the reason, in the system's words, goes to `error`;
 // `restored` tells whether putting it back worked.

@@ -1,0 +1,131 @@
+// Saving: 1,000 changed variables into one start-up file of 5,000 lines, and
+// one changed variable in a 1 MiB file beside `sed -i` making the same
+// one-line change. Every save also keeps its copy of the file and syncs.
+
+#include "evemodel.h"
+#include "sandbox.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <spawn.h>
+#include <sys/wait.h>
+
+extern char **environ;
+
+namespace {
+
+QString bashrc()
+{
+    return Sandbox::home() + QStringLiteral("/.bashrc");
+}
+
+QModelIndex valueOf(const EveModel &model, const QString &name)
+{
+    const QModelIndex found =
+        model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0);
+    return found.siblingAtColumn(EveModel::ValueColumn);
+}
+
+// A start-up file of `lines` lines: exports of the named variables spread
+// among ordinary shell lines.
+QByteArray startupFile(const QStringList &names, int lines, int lineLength)
+{
+    QByteArray bytes;
+    const int every = lines / qMax(1, names.size());
+    for (int i = 0; i < lines; ++i) {
+        QByteArray line;
+        if (i % every == 0 && i / every < names.size())
+            line = "export " + names.at(i / every).toUtf8() + "=/opt/old/value";
+        else
+            line = "alias l" + QByteArray::number(i) + "='ls -l --color=auto'";
+        if (line.size() < lineLength)
+            line += " # " + QByteArray(lineLength - line.size() - 3, 'c');
+        bytes += line + '\n';
+    }
+    return bytes;
+}
+
+void BM_Save1000ChangedVariablesInto5000Lines(benchmark::State &state)
+{
+    Sandbox sandbox;
+    QStringList names, environment;
+    for (int i = 0; i < 1000; ++i) {
+        names << QStringLiteral("VARIABLE_%1").arg(i);
+        environment << names.last() + QStringLiteral("=/opt/old/value");
+    }
+    Sandbox::setUserEnvironment(environment);
+    Sandbox::writeFile(bashrc(), startupFile(names, 5000, 40));
+    EveModel model;
+    int round = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (const QString &name : qAsConst(names))
+            model.setData(valueOf(model, name), QStringLiteral("/opt/new/%1").arg(round));
+        ++round;
+        state.ResumeTiming();
+        if (!model.save())
+            state.SkipWithError("the save failed");
+    }
+}
+BENCHMARK(BM_Save1000ChangedVariablesInto5000Lines)->Unit(benchmark::kMillisecond);
+
+// 16,384 lines of 64 bytes, FOO's export in the middle.
+QByteArray oneMebibyte()
+{
+    const QByteArray half = startupFile({}, 1 << 13, 63);
+    return half + startupFile({QStringLiteral("FOO")}, 1 << 13, 63);
+}
+
+void BM_SaveOneVariableInto1MiB(benchmark::State &state)
+{
+    Sandbox sandbox;
+    Sandbox::setUserEnvironment({QStringLiteral("FOO=/opt/old/value")});
+    Sandbox::writeFile(bashrc(), oneMebibyte());
+    EveModel model;
+    int round = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        model.setData(valueOf(model, QStringLiteral("FOO")), QString::number(round++));
+        state.ResumeTiming();
+        if (!model.save())
+            state.SkipWithError("the save failed");
+    }
+}
+BENCHMARK(BM_SaveOneVariableInto1MiB)->Unit(benchmark::kMillisecond);
+
+// The same one-line change by `sed -i`, started as a process the way a
+// user would.
+void BM_SedOneVariableInto1MiB(benchmark::State &state)
+{
+    Sandbox sandbox;
+    Sandbox::writeFile(bashrc(), oneMebibyte());
+    const QByteArray file = bashrc().toLocal8Bit();
+    int round = 0;
+    for (auto _ : state) {
+        const QByteArray script =
+            "s|^export FOO=.*|export FOO=" + QByteArray::number(round++) + "|";
+        char *arguments[] = {const_cast<char *>("sed"), const_cast<char *>("-i"),
+                             const_cast<char *>(script.constData()),
+                             const_cast<char *>(file.constData()), nullptr};
+        pid_t child;
+        int status = 0;
+        if (::posix_spawnp(&child, "sed", nullptr, nullptr, arguments, environ) != 0 ||
+            ::waitpid(child, &status, 0) != child || status != 0)
+            state.SkipWithError("sed failed");
+    }
+}
+BENCHMARK(BM_SedOneVariableInto1MiB)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    Sandbox::prepareProcess();
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
