@@ -188,12 +188,13 @@ private slots:
             const QString line = pick(random, linePieces, 9);
             const QString name = namePieces.at(random.bounded(namePieces.size()));
 
+            const LineGrammar::LineEdits edits(name);
             QString rewritten = line;
-            LineGrammar::rewriteAssignment(rewritten, name, name + "=v");
+            edits.rewriteAssignment(rewritten, name + "=v");
             QCOMPARE(rewritten, QString(line).replace(QRegExp(name + "=.*"), name + "=v"));
 
             QString blanked = line;
-            LineGrammar::blankExport(blanked, name);
+            edits.blankExport(blanked);
             QCOMPARE(blanked, QString(line).replace(QRegExp("export.*" + name + "=.*"), " "));
         }
     }
