@@ -1,0 +1,8 @@
+#include "lookup.h"
+
+#include "filterbar.h"
+
+void installLookup(Eve *window)
+{
+    new FilterBar(window);
+}
