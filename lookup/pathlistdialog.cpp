@@ -34,7 +34,7 @@ PathListDialog::PathListDialog(const QString &name, const QString &value, QWidge
     : QDialog(parent)
     , original(value)
 {
-    setWindowTitle(tr("Edit %1 as a List").arg(name));
+    setWindowTitle(tr("Edit %1 as a list").arg(name));
     resize(600, 420);
 
     auto *intro = new QLabel(
@@ -47,11 +47,11 @@ PathListDialog::PathListDialog(const QString &name, const QString &value, QWidge
     list->setObjectName(QStringLiteral("entryList"));
     list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
 
-    addButton = new QPushButton(tr("&Add Folder..."), this);
+    addButton = new QPushButton(tr("&Add folder..."), this);
     removeButton = new QPushButton(tr("&Remove"), this);
-    upButton = new QPushButton(tr("Move &Up"), this);
-    downButton = new QPushButton(tr("Move &Down"), this);
-    duplicatesButton = new QPushButton(tr("Remove Du&plicates"), this);
+    upButton = new QPushButton(tr("Move &up"), this);
+    downButton = new QPushButton(tr("Move &down"), this);
+    duplicatesButton = new QPushButton(tr("Remove du&plicates"), this);
     addListKey(list, addButton, QKeySequence(Qt::Key_Insert));
     addListKey(list, removeButton, QKeySequence::Delete);
     addListKey(list, upButton, QKeySequence(Qt::CTRL | Qt::Key_Up));
@@ -106,7 +106,7 @@ QString PathListDialog::value() const
 QString PathListDialog::chooseFolder(QWidget *parent, const QString &start)
 {
     // Qt's own dialog: native ones ignore the request to show hidden folders.
-    QFileDialog dialog(parent, tr("Add Folder"), start);
+    QFileDialog dialog(parent, tr("Add folder"), start);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     dialog.setFilter(dialog.filter() | QDir::Hidden);

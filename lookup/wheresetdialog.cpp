@@ -11,11 +11,11 @@ WhereSetDialog::WhereSetDialog(const QString &name, const std::optional<QString>
                                const QString &home, QWidget *parent)
     : QDialog(parent)
 {
-    setWindowTitle(tr("Where Is %1 Set?").arg(name));
+    setWindowTitle(tr("Where is %1 set?").arg(name));
     resize(760, 420);
 
     sessionLabel = new QLabel(session ? tr("In this session: %1=%2").arg(name, *session)
-                                      : tr("This session does not have %1.").arg(name),
+                                      : tr("This session does not have %1").arg(name),
                               this);
     sessionLabel->setTextFormat(Qt::PlainText);
     sessionLabel->setWordWrap(true);

@@ -245,7 +245,7 @@ private slots:
 
         window.findChild<WhereSetCommand *>()->action()->trigger();
 
-        QCOMPARE(answerer.seen.value(0).title, "Where Is PAGER Set?");
+        QCOMPARE(answerer.seen.value(0).title, "Where is PAGER set?");
         QCOMPARE(session, "In this session: PAGER=less");
         QCOMPARE(rows, QStringList({"~/.profile | 1 | # export PAGER=less | commented out",
                                     "~/.profile | 2 | export PAGER=most | "}));
