@@ -28,6 +28,9 @@ RowFilter::RowFilter(QTableView *view)
             [this](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
                 pinRows(topLeft.row(), bottomRight.row());
             });
+    // The window's own commands may select a row that the filter hides.
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &RowFilter::keepCurrentVisible);
     visible = model->rowCount();
 }
 

@@ -290,6 +290,27 @@ private slots:
         QTEST(window.isModified(), "modified");
     }
 
+    void ctrlLOpensTheListOfTheCurrentRow()
+    {
+        Sandbox::setUserEnvironment({"MYPATH=/a:/b"});
+        Eve window;
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.tableView->setCurrentIndex(valueOf(window, "MYPATH"));
+        QStringList entries;
+        ModalAnswerer answerer;
+        answerer.addAction([&entries](QWidget *widget) {
+            entries = qobject_cast<PathListDialog *>(widget)->entries();
+            ModalAnswerer::clickButton(widget, "Cancel");
+        });
+
+        QTest::keyClick(window.tableView, Qt::Key_L, Qt::ControlModifier);
+
+        QCOMPARE(entries, QStringList({"/a", "/b"}));
+        QCOMPARE(answerer.pending(), 0);
+    }
+
     void theCommandNeedsACurrentRow()
     {
         Eve window;

@@ -144,6 +144,14 @@ private slots:
         QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window, "EDITOR"));
     }
 
+    void selectingAHiddenRowSelectsTheFirstVisibleOne()
+    {
+        type("vim");
+        window->tableView->selectRow(rowOf(*window, "PAGER"));
+
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window, "EDITOR"));
+    }
+
     void noVisibleRowLeavesNoCurrentRowAndNoEditing()
     {
         window->tableView->selectRow(rowOf(*window, "PAGER"));

@@ -255,6 +255,24 @@ private slots:
         QCOMPARE(answerer.pending(), 0);
     }
 
+    void ctrlIAsksAboutTheCurrentRow()
+    {
+        Sandbox::setUserEnvironment({"PAGER=less"});
+        Eve window;
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const EveModel *model = window.eveModel();
+        window.tableView->setCurrentIndex(
+            model->match(model->index(0, 0), Qt::DisplayRole, "PAGER").value(0));
+        ModalAnswerer answerer({"Close"});
+
+        QTest::keyClick(window.tableView, Qt::Key_I, Qt::ControlModifier);
+
+        QCOMPARE(answerer.seen.value(0).title, "Where is PAGER set?");
+        QCOMPARE(answerer.pending(), 0);
+    }
+
 private:
     QScopedPointer<Sandbox> sandbox;
 };
