@@ -46,6 +46,8 @@ PathListDialog::PathListDialog(const QString &name, const QString &value, QWidge
     list = new QListWidget(this);
     list->setObjectName(QStringLiteral("entryList"));
     list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    list->setIconSize(QSize(iconSize, iconSize));
 
     addButton = new QPushButton(tr("&Add folder..."), this);
     removeButton = new QPushButton(tr("&Remove"), this);
@@ -186,7 +188,11 @@ void PathListDialog::refresh()
     const QIcon warning = QIcon::fromTheme(QStringLiteral("dialog-warning"),
                                            style()->standardIcon(QStyle::SP_MessageBoxWarning));
     const QIcon copy = QIcon::fromTheme(QStringLiteral("edit-copy"),
-                                        style()->standardIcon(QStyle::SP_FileDialogListView));
+                                        style()->standardIcon(QStyle::SP_MessageBoxInformation));
+    // Unmarked entries get an empty icon, so that every text starts at one place.
+    QPixmap blank(list->iconSize());
+    blank.fill(Qt::transparent);
+    const QIcon none(blank);
     bool anyDuplicate = false;
     for (int row = 0; row < texts.size(); ++row) {
         QListWidgetItem *item = list->item(row);
@@ -207,7 +213,7 @@ void PathListDialog::refresh()
         QFont font = list->font();
         font.setItalic(earlier.at(row) >= 0);
         item->setFont(font);
-        item->setIcon(missing ? warning : earlier.at(row) >= 0 ? copy : QIcon());
+        item->setIcon(missing ? warning : earlier.at(row) >= 0 ? copy : none);
         item->setToolTip(notes.join(QLatin1Char('\n')));
     }
 
