@@ -126,13 +126,6 @@ private slots:
         QVERIFY(dialog.duplicatesButton->isEnabled());
     }
 
-    void aMissingRepeatIsMarkedForBoth()
-    {
-        PathListDialog dialog("P", missing() + ":" + missing(), nullptr);
-        QCOMPARE(toolTips(dialog), QStringList({"does not exist", "does not exist\nduplicate of "
-                                                                  "entry 1"}));
-    }
-
     void buttonsReorderRemoveAndDeduplicate()
     {
         PathListDialog dialog("P", "/a:/b:/a:/c", nullptr);
@@ -180,14 +173,6 @@ private slots:
         QCOMPARE(dialog.entries(), QStringList({"/a", bin(), "/b"}));
         QCOMPARE(dialog.list->currentRow(), 1);
         QCOMPARE(askedFrom, QDir::homePath()); // "/a" is no folder to start in
-    }
-
-    void aCancelledChooserAddsNothing()
-    {
-        PathListDialog dialog("P", "/a", nullptr);
-        dialog.setFolderChooser([](QWidget *, const QString &) { return QString(); });
-        dialog.addButton->click();
-        QCOMPARE(dialog.entries(), QStringList({"/a"}));
     }
 
     void theFolderChooserShowsHiddenFolders()

@@ -193,12 +193,6 @@ private slots:
         QVERIFY(window->tableView->hasFocus());
     }
 
-    void theFieldSitsAtTheEndOfTheToolBar()
-    {
-        const QList<QAction *> actions = window->toolBar->actions();
-        QCOMPARE(window->toolBar->widgetForAction(actions.last()), bar()->field());
-    }
-
 private:
     QScopedPointer<Sandbox> sandbox;
     std::unique_ptr<Eve> window;

@@ -656,7 +656,7 @@
         <translation>Die Einträge von %1 in ihrer Reihenfolge, einer pro Zeile; ein Doppelklick auf einen Eintrag ändert ihn.</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+11"/>
         <source>&amp;Add folder...</source>
         <translation>Ordner &amp;hinzufügen...</translation>
     </message>
@@ -686,7 +686,7 @@
         <translation>Ordner hinzufügen</translation>
     </message>
     <message>
-        <location line="+88"/>
+        <location line="+92"/>
         <source>empty: stands for the current folder</source>
         <translation>leer: steht für den aktuellen Ordner</translation>
     </message>

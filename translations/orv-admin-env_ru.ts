@@ -656,7 +656,7 @@
         <translation>Элементы %1 по порядку, по одному в строке; дважды щёлкните элемент, чтобы изменить его.</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+11"/>
         <source>&amp;Add folder...</source>
         <translation>&amp;Добавить папку...</translation>
     </message>
@@ -686,7 +686,7 @@
         <translation>Добавить папку</translation>
     </message>
     <message>
-        <location line="+88"/>
+        <location line="+92"/>
         <source>empty: stands for the current folder</source>
         <translation>пусто: означает текущую папку</translation>
     </message>
