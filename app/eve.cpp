@@ -1,6 +1,7 @@
 #include "eve.h"
 
 #include "evemodel.h"
+#include "lookup.h"
 #include "orvintegration.h"
 #include "preferencesdialog.h"
 #include "ueditor.h"
@@ -44,6 +45,9 @@ Eve::Eve(QWidget *parent)
 
     model = new EveModel(this);
     tableView->setModel(model);
+    // Before the window's own connections: the filter must hear of an edit
+    // before the re-sort that follows it.
+    installLookup(this);
 
     header = tableView->horizontalHeader();
     header->hideSection(EveModel::ScopeColumn);

@@ -62,4 +62,19 @@ QString localScratch()
     return underRoot(QStringLiteral("/tmp/orv-admin-env-localfile"));
 }
 
+QString cshLogin()
+{
+    return underRoot(QStringLiteral("/etc/csh.login"));
+}
+
+QString profileDir()
+{
+    return underRoot(QStringLiteral("/etc/profile.d"));
+}
+
+QString etcEnvironment()
+{
+    return underRoot(QStringLiteral("/etc/environment"));
+}
+
 } // namespace SystemPaths

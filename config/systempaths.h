@@ -19,4 +19,9 @@ QString cshCshrc();      // "/etc/csh.cshrc"
 QString globalScratch(); // "/tmp/orv-admin-env-globalfile"
 QString localScratch();  // "/tmp/orv-admin-env-localfile"
 
+// Further files a login reads, for telling where a variable is set.
+QString cshLogin();       // "/etc/csh.login"
+QString profileDir();     // "/etc/profile.d"
+QString etcEnvironment(); // "/etc/environment"
+
 } // namespace SystemPaths

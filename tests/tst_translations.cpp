@@ -14,15 +14,15 @@ private slots:
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("texts"); // menus | a question | its buttons
-        const char *english = "&File &Edit &Help|Do you really want to reset?|Yes No";
+        const char *english = "&File &Edit &Tools &Help|Do you really want to reset?|Yes No";
         QTest::newRow("C") << "C" << english;
         QTest::newRow("fr, which only Qt has") << "fr_FR" << english;
         QTest::newRow("de")
             << "de_DE"
-            << "&Datei &Bearbeiten &Hilfe|Möchten Sie wirklich zurücksetzen?|Ja Nein";
+            << "&Datei &Bearbeiten E&xtras &Hilfe|Möchten Sie wirklich zurücksetzen?|Ja Nein";
         QTest::newRow("ru")
             << "ru_RU"
-            << "&Файл &Правка &Справка|Вы действительно хотите сбросить изменения?|Да Нет";
+            << "&Файл &Правка С&ервис &Справка|Вы действительно хотите сбросить изменения?|Да Нет";
     }
     void window()
     {

@@ -4,7 +4,7 @@
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+99"/>
+        <location filename="../app/eve.cpp" line="+103"/>
         <source>Orv environment variable editor</source>
         <translation>Orv-Editor für Umgebungsvariablen</translation>
     </message>
@@ -459,11 +459,13 @@
     </message>
     <message>
         <location line="+109"/>
+        <location filename="../lookup/listeditcommand.cpp" line="+19"/>
         <source>Request of confirmation</source>
         <translation>Bestätigung erforderlich</translation>
     </message>
     <message>
         <location line="+1"/>
+        <location filename="../lookup/listeditcommand.cpp" line="+1"/>
         <source>Really change the value of system variable?</source>
         <translation>Den Wert der Systemvariable wirklich ändern?</translation>
     </message>
@@ -522,6 +524,42 @@
         <location line="+11"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geschrieben werden: %3</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <location filename="../lookup/filterbar.cpp" line="+18"/>
+        <source>Filter variables</source>
+        <translation>Variablen filtern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shows only the variables whose name, value or description contain this text (Ctrl+F)</source>
+        <translation>Zeigt nur die Variablen, deren Name, Wert oder Beschreibung diesen Text enthält (Strg+F)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Filter variables</source>
+        <translation>Variablen &amp;filtern</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>%1 of %2 variables</source>
+        <translation>Variablen: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>ListEditCommand</name>
+    <message>
+        <location filename="../lookup/listeditcommand.cpp" line="+10"/>
+        <source>Edit as &amp;list...</source>
+        <translation>Als &amp;Liste bearbeiten...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Edit a colon-separated value such as PATH one entry per line</source>
+        <translation>Einen durch Doppelpunkte getrennten Wert wie PATH Eintrag für Eintrag bearbeiten</translation>
     </message>
 </context>
 <context>
@@ -623,9 +661,72 @@
     </message>
 </context>
 <context>
+    <name>PathListDialog</name>
+    <message>
+        <location filename="../lookup/pathlistdialog.cpp" line="+37"/>
+        <source>Edit %1 as a list</source>
+        <translation>%1 als Liste bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The entries of %1 in their order, one per line; double-click an entry to change it.</source>
+        <translation>Die Einträge von %1 in ihrer Reihenfolge, einer pro Zeile; ein Doppelklick auf einen Eintrag ändert ihn.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&amp;Add folder...</source>
+        <translation>Ordner &amp;hinzufügen...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Move &amp;up</source>
+        <translation>Nach o&amp;ben</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Move &amp;down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove du&amp;plicates</source>
+        <translation>&amp;Duplikate entfernen</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+92"/>
+        <source>empty: stands for the current folder</source>
+        <translation>leer: steht für den aktuellen Ordner</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>does not exist</source>
+        <translation>existiert nicht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>is not a folder</source>
+        <translation>ist kein Ordner</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>duplicate of entry %1</source>
+        <translation>Duplikat von Eintrag %1</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
-        <location filename="../config/safefile.cpp" line="+29"/>
+        <location filename="../config/safefile.cpp" line="+30"/>
         <source>it is not a regular file</source>
         <translation>sie ist keine reguläre Datei</translation>
     </message>
@@ -640,7 +741,7 @@
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+143"/>
+        <location line="+152"/>
         <source>another program changed it during the save</source>
         <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
     </message>
@@ -651,6 +752,121 @@
         <location filename="../app/toolsmenu.cpp" line="+12"/>
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSet</name>
+    <message>
+        <location filename="../lookup/whereset.cpp" line="+131"/>
+        <source>cannot be read: it is not a regular file</source>
+        <translation>nicht lesbar: keine reguläre Datei</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+5"/>
+        <source>cannot be read: %1</source>
+        <translation>nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>No start-up file that a login reads sets %1</source>
+        <translation>Keine Startdatei, die bei der Anmeldung gelesen wird, setzt %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 sets `%2`, which the shell works out at login; this session does not have %3</source>
+        <translation>%1 setzt `%2`, was die Shell erst bei der Anmeldung auswertet; diese Sitzung hat %3 nicht</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`, which the shell works out at login; this session has `%3`</source>
+        <translation>%1 setzt `%2`, was die Shell erst bei der Anmeldung auswertet; diese Sitzung hat `%3`</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 sets `%2`, the value this session has</source>
+        <translation>%1 setzt `%2`, den Wert, den diese Sitzung hat</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 sets `%2`; this session does not have %3: the saved value takes effect at the next login</source>
+        <translation>%1 setzt `%2`; diese Sitzung hat %3 nicht: der gespeicherte Wert gilt ab der nächsten Anmeldung</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`; this session does not have %3: log in again to use the file&apos;s value</source>
+        <translation>%1 setzt `%2`; diese Sitzung hat %3 nicht: melden Sie sich neu an, um den Wert der Datei zu verwenden</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 sets `%2`; this session has `%3`: the saved value takes effect at the next login</source>
+        <translation>%1 setzt `%2`; diese Sitzung hat `%3`: der gespeicherte Wert gilt ab der nächsten Anmeldung</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`; this session has `%3`: log in again to use the file&apos;s value</source>
+        <translation>%1 setzt `%2`; diese Sitzung hat `%3`: melden Sie sich neu an, um den Wert der Datei zu verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSetCommand</name>
+    <message>
+        <location filename="../lookup/wheresetcommand.cpp" line="+14"/>
+        <source>&amp;Where is it set?...</source>
+        <translation>&amp;Wo wird sie gesetzt?...</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Show every line of the start-up files that sets the selected variable</source>
+        <translation>Jede Zeile der Startdateien zeigen, die die ausgewählte Variable setzt</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSetDialog</name>
+    <message>
+        <location filename="../lookup/wheresetdialog.cpp" line="+14"/>
+        <source>Where is %1 set?</source>
+        <translation>Wo wird %1 gesetzt?</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>In this session: %1=%2</source>
+        <translation>In dieser Sitzung: %1=%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This session does not have %1</source>
+        <translation>Diese Sitzung hat %1 nicht</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>commented out</source>
+        <translation>auskommentiert</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>exports it, sets no value</source>
+        <translation>exportiert sie, setzt keinen Wert</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+99"/>
+        <location filename="../app/eve.cpp" line="+103"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -459,11 +459,13 @@
     </message>
     <message>
         <location line="+109"/>
+        <location filename="../lookup/listeditcommand.cpp" line="+19"/>
         <source>Request of confirmation</source>
         <translation>Запрос подтверждения</translation>
     </message>
     <message>
         <location line="+1"/>
+        <location filename="../lookup/listeditcommand.cpp" line="+1"/>
         <source>Really change the value of system variable?</source>
         <translation>Действительно изменить значение системной переменной?</translation>
     </message>
@@ -522,6 +524,42 @@
         <location line="+11"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Не удалось записать файл %1 для удаления переменной %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <location filename="../lookup/filterbar.cpp" line="+18"/>
+        <source>Filter variables</source>
+        <translation>Фильтр переменных</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shows only the variables whose name, value or description contain this text (Ctrl+F)</source>
+        <translation>Показывает только переменные, имя, значение или описание которых содержит этот текст (Ctrl+F)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Filter variables</source>
+        <translation>&amp;Фильтр переменных</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>%1 of %2 variables</source>
+        <translation>Переменные: %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>ListEditCommand</name>
+    <message>
+        <location filename="../lookup/listeditcommand.cpp" line="+10"/>
+        <source>Edit as &amp;list...</source>
+        <translation>Изменить как &amp;список...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Edit a colon-separated value such as PATH one entry per line</source>
+        <translation>Изменить значение, разделённое двоеточиями (например, PATH), по одному элементу в строке</translation>
     </message>
 </context>
 <context>
@@ -623,9 +661,72 @@
     </message>
 </context>
 <context>
+    <name>PathListDialog</name>
+    <message>
+        <location filename="../lookup/pathlistdialog.cpp" line="+37"/>
+        <source>Edit %1 as a list</source>
+        <translation>Изменение %1 как списка</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The entries of %1 in their order, one per line; double-click an entry to change it.</source>
+        <translation>Элементы %1 по порядку, по одному в строке; дважды щёлкните элемент, чтобы изменить его.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>&amp;Add folder...</source>
+        <translation>&amp;Добавить папку...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Move &amp;up</source>
+        <translation>Вв&amp;ерх</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Move &amp;down</source>
+        <translation>Вн&amp;из</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove du&amp;plicates</source>
+        <translation>Удалить &amp;повторы</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>Add folder</source>
+        <translation>Добавить папку</translation>
+    </message>
+    <message>
+        <location line="+92"/>
+        <source>empty: stands for the current folder</source>
+        <translation>пусто: означает текущую папку</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>does not exist</source>
+        <translation>не существует</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>is not a folder</source>
+        <translation>не является папкой</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>duplicate of entry %1</source>
+        <translation>повтор элемента %1</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
-        <location filename="../config/safefile.cpp" line="+29"/>
+        <location filename="../config/safefile.cpp" line="+30"/>
         <source>it is not a regular file</source>
         <translation>это не обычный файл</translation>
     </message>
@@ -640,7 +741,7 @@
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+143"/>
+        <location line="+152"/>
         <source>another program changed it during the save</source>
         <translation>другая программа изменила его во время сохранения</translation>
     </message>
@@ -651,6 +752,121 @@
         <location filename="../app/toolsmenu.cpp" line="+12"/>
         <source>&amp;Tools</source>
         <translation>С&amp;ервис</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSet</name>
+    <message>
+        <location filename="../lookup/whereset.cpp" line="+131"/>
+        <source>cannot be read: it is not a regular file</source>
+        <translation>не удаётся прочитать: это не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+5"/>
+        <source>cannot be read: %1</source>
+        <translation>не удаётся прочитать: %1</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>No start-up file that a login reads sets %1</source>
+        <translation>Ни один файл запуска, читаемый при входе в систему, не задаёт %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 sets `%2`, which the shell works out at login; this session does not have %3</source>
+        <translation>%1 задаёт `%2`, это значение оболочка вычисляет при входе; в этом сеансе %3 нет</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`, which the shell works out at login; this session has `%3`</source>
+        <translation>%1 задаёт `%2`, это значение оболочка вычисляет при входе; в этом сеансе `%3`</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 sets `%2`, the value this session has</source>
+        <translation>%1 задаёт `%2` — то же значение, что и в этом сеансе</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 sets `%2`; this session does not have %3: the saved value takes effect at the next login</source>
+        <translation>%1 задаёт `%2`; в этом сеансе %3 нет: сохранённое значение вступит в силу при следующем входе</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`; this session does not have %3: log in again to use the file&apos;s value</source>
+        <translation>%1 задаёт `%2`; в этом сеансе %3 нет: войдите в систему заново, чтобы использовать значение из файла</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 sets `%2`; this session has `%3`: the saved value takes effect at the next login</source>
+        <translation>%1 задаёт `%2`; в этом сеансе `%3`: сохранённое значение вступит в силу при следующем входе</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 sets `%2`; this session has `%3`: log in again to use the file&apos;s value</source>
+        <translation>%1 задаёт `%2`; в этом сеансе `%3`: войдите в систему заново, чтобы использовать значение из файла</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSetCommand</name>
+    <message>
+        <location filename="../lookup/wheresetcommand.cpp" line="+14"/>
+        <source>&amp;Where is it set?...</source>
+        <translation>&amp;Где она задана?...</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Show every line of the start-up files that sets the selected variable</source>
+        <translation>Показать все строки файлов запуска, задающие выбранную переменную</translation>
+    </message>
+</context>
+<context>
+    <name>WhereSetDialog</name>
+    <message>
+        <location filename="../lookup/wheresetdialog.cpp" line="+14"/>
+        <source>Where is %1 set?</source>
+        <translation>Где задана %1?</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>In this session: %1=%2</source>
+        <translation>В этом сеансе: %1=%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This session does not have %1</source>
+        <translation>В этом сеансе нет %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>commented out</source>
+        <translation>закомментировано</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>exports it, sets no value</source>
+        <translation>экспортирует, но не задаёт значение</translation>
     </message>
 </context>
 <context>
