@@ -14,8 +14,12 @@ case "$mode" in run | test) ;; *) usage ;; esac
 cd "$(dirname "$0")/.."
 
 packages="cmake make g++ qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core"
+# The icons: Qt's SVG icon engine and Breeze, which has every icon the editor uses.
+packages="$packages libqt5svg5 breeze-icon-theme"
 if [ "$mode" = test ]; then
     packages="$packages xvfb xauth x11-utils xdotool openbox desktop-file-utils appstream libbenchmark-dev"
+    # The Debian package: dpkg-shlibdeps for its dependencies, lintian to check it.
+    packages="$packages dpkg-dev lintian"
 fi
 
 missing=""
