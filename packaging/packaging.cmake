@@ -17,7 +17,10 @@ endforeach()
 
 # Manual pages: every docs/*.1, so that a program's page is installed as soon as
 # it lands there. Compressed without a time stamp, as Debian wants them.
-find_program(ORV_ADMIN_ENV_GZIP gzip REQUIRED)
+find_program(ORV_ADMIN_ENV_GZIP gzip)
+if(NOT ORV_ADMIN_ENV_GZIP)
+    message(FATAL_ERROR "gzip not found: it compresses the manual pages and the change log")
+endif()
 file(GLOB ORV_ADMIN_ENV_MAN_PAGES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/docs/*.1)
 set(compressed_files)
 set(gz_dir ${CMAKE_CURRENT_BINARY_DIR}/packaging)
