@@ -1,4 +1,6 @@
 #include "eve.h"
+#include "iconfallback.h"
+#include "nodisplay.h"
 #include "orvintegration.h"
 #include "qtsingleapplication.h"
 #include "translations.h"
@@ -7,7 +9,10 @@
 
 int main(int argc, char *argv[])
 {
+    // Without a display Qt would abort inside the constructor; say so and stop instead.
+    NoDisplayGuard noDisplay;
     QtSingleApplication app(argc, argv, true);
+    noDisplay.release();
     // A second start brings the running editor forward and gives up.
     if (app.isRunning()) {
         app.sendMessage(QStringLiteral("raise"), 5000);
@@ -17,6 +22,7 @@ int main(int argc, char *argv[])
     orvInit("1.1.1",
             "Orv-admin-env provides easy and convenient way to manage environment variables.");
     installTranslations(&app);
+    installIconFallback();
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-terminal"), QIcon()));
 
     Eve *window = new Eve;

@@ -22,8 +22,8 @@ endif()
 set(missing)
 foreach(path
         bin/orv-admin-env
-        share/applications/org.orv.AdminEnv.desktop
-        share/metainfo/org.orv.AdminEnv.metainfo.xml)
+        share/applications/org.orv.admin_env.desktop
+        share/metainfo/org.orv.admin_env.metainfo.xml)
     if(NOT EXISTS "${PREFIX}/${path}" OR IS_DIRECTORY "${PREFIX}/${path}")
         list(APPEND missing "${path}")
     endif()
@@ -33,7 +33,7 @@ if(missing)
 endif()
 
 # The desktop entry starts the installed program by name.
-file(STRINGS "${PREFIX}/share/applications/org.orv.AdminEnv.desktop" exec REGEX "^Exec=")
+file(STRINGS "${PREFIX}/share/applications/org.orv.admin_env.desktop" exec REGEX "^Exec=")
 if(NOT exec STREQUAL "Exec=orv-admin-env")
     message(FATAL_ERROR "unexpected ${exec}")
 endif()

@@ -887,6 +887,86 @@
         <source>User Config Files</source>
         <translation>Konfigurationsdateien des Benutzers</translation>
     </message>
+    <message>
+        <location/>
+        <source>Move the selected system file up</source>
+        <translation>Die gewählte Systemdatei nach oben schieben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move system file up</source>
+        <translation>Systemdatei nach oben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected system file down</source>
+        <translation>Die gewählte Systemdatei nach unten schieben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move system file down</source>
+        <translation>Systemdatei nach unten</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add a system file to scan</source>
+        <translation>Eine zu durchsuchende Systemdatei hinzufügen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add system file</source>
+        <translation>Systemdatei hinzufügen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove the selected system file from the list</source>
+        <translation>Die gewählte Systemdatei aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove system file</source>
+        <translation>Systemdatei entfernen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected user file up</source>
+        <translation>Die gewählte Benutzerdatei nach oben schieben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move user file up</source>
+        <translation>Benutzerdatei nach oben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected user file down</source>
+        <translation>Die gewählte Benutzerdatei nach unten schieben</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move user file down</source>
+        <translation>Benutzerdatei nach unten</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add a user file to scan</source>
+        <translation>Eine zu durchsuchende Benutzerdatei hinzufügen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add user file</source>
+        <translation>Benutzerdatei hinzufügen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove the selected user file from the list</source>
+        <translation>Die gewählte Benutzerdatei aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove user file</source>
+        <translation>Benutzerdatei entfernen</translation>
+    </message>
 </context>
 <context>
     <name>uEditor</name>

@@ -887,6 +887,86 @@
         <source>User Config Files</source>
         <translation>Пользовательские файлы настроек</translation>
     </message>
+    <message>
+        <location/>
+        <source>Move the selected system file up</source>
+        <translation>Переместить выбранный системный файл вверх</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move system file up</source>
+        <translation>Системный файл вверх</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected system file down</source>
+        <translation>Переместить выбранный системный файл вниз</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move system file down</source>
+        <translation>Системный файл вниз</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add a system file to scan</source>
+        <translation>Добавить системный файл для просмотра</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add system file</source>
+        <translation>Добавить системный файл</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove the selected system file from the list</source>
+        <translation>Убрать выбранный системный файл из списка</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove system file</source>
+        <translation>Убрать системный файл</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected user file up</source>
+        <translation>Переместить выбранный файл пользователя вверх</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move user file up</source>
+        <translation>Файл пользователя вверх</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move the selected user file down</source>
+        <translation>Переместить выбранный файл пользователя вниз</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Move user file down</source>
+        <translation>Файл пользователя вниз</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add a user file to scan</source>
+        <translation>Добавить файл пользователя для просмотра</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Add user file</source>
+        <translation>Добавить файл пользователя</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove the selected user file from the list</source>
+        <translation>Убрать выбранный файл пользователя из списка</translation>
+    </message>
+    <message>
+        <location/>
+        <source>Remove user file</source>
+        <translation>Убрать файл пользователя</translation>
+    </message>
 </context>
 <context>
     <name>uEditor</name>
