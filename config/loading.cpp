@@ -1,6 +1,6 @@
+#include "environmententry.h"
 #include "evemodel.h"
-#include "linefile.h"
-#include "linegrammar.h"
+#include "exportmatcher.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,7 +15,7 @@ void EveModel::loadEnvironment(QList<QStringList> &records)
     const QStringList environment = QProcess::systemEnvironment();
     QSettings settings;
     for (const QString &entry : environment) {
-        QStringList record = LineGrammar::splitEnvironmentEntry(entry);
+        QStringList record = LineGrammar::nameAndValue(entry);
         const QString name = record.at(VariableColumn);
         if (name.isEmpty())
             continue;
@@ -38,14 +38,11 @@ void EveModel::loadEnvironment(QList<QStringList> &records)
 QList<QStringList> EveModel::parseFile(QFile &file) const
 {
     QList<QStringList> records;
-    LineGrammar::ExportMatcher matcher;
-    const LineFile lines = LineFile::fromBytes(file.readAll());
-    for (const QString &line : lines.text) {
-        if (matcher.match(line)) {
-            records.append({matcher.name(), matcher.value(), file.fileName(), QString(), QString(),
-                            QString(), QString()});
-        }
-    }
+    const QString path = file.fileName();
+    LineGrammar::forEachExport(file.readAll(), [&](QStringView name, QStringView value) {
+        records.append(
+            {name.toString(), value.toString(), path, QString(), QString(), QString(), QString()});
+    });
     return records;
 }
 
@@ -68,9 +65,10 @@ void EveModel::loadFiles()
             box.exec();
             continue;
         }
-        const QList<QStringList> records = parseFile(file);
-        for (const QStringList &record : records)
-            origins.insert(record.at(VariableColumn), path);
+        // Only the names matter here; parseFile's records would cost more.
+        LineGrammar::forEachExport(file.readAll(), [&](QStringView name, QStringView) {
+            origins.insert(name.toString(), path);
+        });
         file.close();
     }
     for (QStringList &row : rows) {
