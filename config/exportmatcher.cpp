@@ -85,8 +85,12 @@ bool ExportLineMatcher::match(const QString &text)
     return findExport(line, &span);
 }
 
-void forEachExport(const QByteArray &bytes,
-                   const std::function<void(QStringView name, QStringView value)> &found)
+namespace {
+
+// Calls line(start, end, hasCr) for every line of `bytes` that holds
+// "export" or a "\r" before its last character; `end` excludes the line end.
+template <typename Line>
+void forEachCandidateLine(const QByteArray &bytes, Line line)
 {
     const char *pos = bytes.constData();
     const char *const end = pos + bytes.size();
@@ -115,20 +119,128 @@ void forEachExport(const QByteArray &bytes,
         if (textEnd > lineStart && textEnd[-1] == '\r')
             --textEnd;
 
-        // A line whose only "\r" is its last character needs "export" itself.
-        const bool hasCr = findByte(lineStart, textEnd, '\r');
-        if (!hasCr && !findBytes(lineStart, textEnd, keyword.data(), size_t(keyword.size())))
+        // Both lie at or after lineStart: hit's line is the first that holds either.
+        const bool hasCr = cr < textEnd;
+        if (hasCr || word < lineEnd)
+            line(lineStart, textEnd, hasCr);
+    }
+}
+
+// The line as the grammar sees it: decoded, without its "\r" characters.
+QString decodedLine(const char *start, const char *end, bool hasCr)
+{
+    QString text = QString::fromUtf8(start, int(end - start));
+    if (hasCr)
+        text.remove(QLatin1Char('\r'));
+    return text;
+}
+
+enum class Quick { NoMatch, Match, Unsure };
+
+inline bool isAsciiSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+inline bool isAsciiWord(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+inline bool isAscii(char c)
+{
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
+// findExport on the undecoded bytes of a line without "\r". Every byte it
+// looks at must be ASCII, which decodes to the same character; when one is
+// not, only the decoded line can tell.
+Quick quickFindExport(const char *s, int n, int *nameStart, int *nameLength)
+{
+    for (const char *from = s;;) {
+        const char *word = findBytes(from, s + n, keyword.data(), size_t(keyword.size()));
+        if (!word)
+            return Quick::NoMatch;
+        const int at = int(word - s);
+        from = word + 1;
+
+        if (at > 0 && (!isAscii(s[at - 1]) || isAsciiWord(s[at - 1]))) {
+            if (!isAscii(s[at - 1]))
+                return Quick::Unsure;
             continue;
-        QString text = QString::fromUtf8(lineStart, int(textEnd - lineStart));
-        if (hasCr)
-            text.remove(QLatin1Char('\r'));
+        }
+        int i = at + keyword.size();
+        while (i < n && isAsciiSpace(s[i]))
+            ++i;
+        if (i < n && !isAscii(s[i]))
+            return Quick::Unsure;
+        if (i == at + keyword.size())
+            continue;
+
+        const int start = i;
+        while (i < n && isAsciiWord(s[i]))
+            ++i;
+        if (i < n && !isAscii(s[i]))
+            return Quick::Unsure;
+        if (i == start || i >= n || s[i] != '=')
+            continue;
+
+        const int valueStart = i + 1;
+        int end = n;
+        bool after = false;
+        for (; end > valueStart; --end) {
+            if (!isAscii(s[end - 1]))
+                return Quick::Unsure;
+            const bool before = isAsciiWord(s[end - 1]);
+            if (before != after)
+                break;
+            after = before;
+        }
+        if (end == valueStart)
+            continue;
+        *nameStart = start;
+        *nameLength = valueStart - 1 - start;
+        return Quick::Match;
+    }
+}
+
+} // namespace
+
+void forEachExport(const QByteArray &bytes,
+                   const std::function<void(QStringView name, QStringView value)> &found)
+{
+    forEachCandidateLine(bytes, [&](const char *start, const char *end, bool hasCr) {
+        const QString text = decodedLine(start, end, hasCr);
         ExportSpan span;
         if (findExport(text, &span)) {
             const QStringView view(text);
             found(view.mid(span.nameStart, span.nameLength),
                   view.mid(span.valueStart, span.valueLength));
         }
-    }
+    });
+}
+
+void forEachExportedName(const QByteArray &bytes,
+                         const std::function<void(std::string_view name)> &found)
+{
+    forEachCandidateLine(bytes, [&](const char *start, const char *end, bool hasCr) {
+        int nameStart = 0;
+        int nameLength = 0;
+        const Quick quick = hasCr
+                                ? Quick::Unsure
+                                : quickFindExport(start, int(end - start), &nameStart, &nameLength);
+        if (quick == Quick::Match) {
+            found(std::string_view(start + nameStart, size_t(nameLength)));
+        } else if (quick == Quick::Unsure) {
+            const QString text = decodedLine(start, end, hasCr);
+            ExportSpan span;
+            if (findExport(text, &span)) {
+                const QByteArray name =
+                    QStringView(text).mid(span.nameStart, span.nameLength).toUtf8();
+                found(std::string_view(name.constData(), size_t(name.size())));
+            }
+        }
+    });
 }
 
 } // namespace LineGrammar

@@ -4,6 +4,7 @@
 #include <QStringView>
 
 #include <functional>
+#include <string_view>
 
 class QByteArray;
 
@@ -45,5 +46,10 @@ private:
 // decoding maps ASCII bytes to themselves one by one.
 void forEachExport(const QByteArray &bytes,
                    const std::function<void(QStringView name, QStringView value)> &found);
+
+// forEachExport for the names alone, in UTF-8. Lines of ASCII text, the most
+// common kind, are matched without being decoded.
+void forEachExportedName(const QByteArray &bytes,
+                         const std::function<void(std::string_view name)> &found);
 
 } // namespace LineGrammar

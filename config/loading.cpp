@@ -4,10 +4,13 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
+
+#include <string_view>
+#include <unordered_map>
+#include <vector>
 
 void EveModel::loadEnvironment(QList<QStringList> &records)
 {
@@ -50,11 +53,21 @@ void EveModel::loadFiles()
 {
     beginResetModel();
 
-    // Later files win: user files come after system files, and within a
-    // file the last line wins.
-    QHash<QString, QString> origins;
+    // Each row's name in UTF-8, as the files give names, and the index of the
+    // last file that exports it. Later files win: user files come after
+    // system files, and within a file the last line wins.
+    std::vector<QByteArray> names;
+    names.reserve(size_t(rows.size()));
+    std::unordered_map<std::string_view, int> lastFile;
+    for (const QStringList &row : qAsConst(rows)) {
+        names.push_back(row.value(VariableColumn).toUtf8());
+        lastFile.emplace(std::string_view(names.back().constData(), size_t(names.back().size())),
+                         -1);
+    }
+
     const QStringList files = systemFiles + userFiles;
-    for (const QString &path : files) {
+    for (int i = 0; i < files.size(); ++i) {
+        const QString &path = files.at(i);
         if (!QFileInfo::exists(path))
             continue;
         QFile file(path);
@@ -65,16 +78,18 @@ void EveModel::loadFiles()
             box.exec();
             continue;
         }
-        // Only the names matter here; parseFile's records would cost more.
-        LineGrammar::forEachExport(file.readAll(), [&](QStringView name, QStringView) {
-            origins.insert(name.toString(), path);
+        LineGrammar::forEachExportedName(file.readAll(), [&](std::string_view name) {
+            const auto found = lastFile.find(name);
+            if (found != lastFile.end())
+                found->second = i;
         });
         file.close();
     }
-    for (QStringList &row : rows) {
-        const auto origin = origins.constFind(row.value(VariableColumn));
-        if (origin != origins.constEnd())
-            row[OriginColumn] = origin.value();
+    for (int r = 0; r < rows.size(); ++r) {
+        const QByteArray &name = names[size_t(r)];
+        const int file = lastFile[std::string_view(name.constData(), size_t(name.size()))];
+        if (file >= 0)
+            rows[r][OriginColumn] = files.at(file);
     }
 
     endResetModel();

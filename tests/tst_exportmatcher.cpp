@@ -55,6 +55,24 @@ class TestExportMatcher : public QObject
         return found;
     }
 
+    // The names alone, in the form exportsByScan gives them.
+    static QStringList namesByScan(const QByteArray &bytes)
+    {
+        QStringList found;
+        LineGrammar::forEachExportedName(bytes, [&](std::string_view name) {
+            found << QString::fromUtf8(name.data(), int(name.size()));
+        });
+        return found;
+    }
+
+    static QStringList namesOf(const QStringList &exports)
+    {
+        QStringList names;
+        for (const QString &found : exports)
+            names << found.section(QLatin1Char('|'), 0, 0);
+        return names;
+    }
+
     // "NAME|VALUE|null" (null when the value is a null string) by QRegExp.
     QString splitByQRegExp(const QString &entry)
     {
@@ -172,6 +190,7 @@ private slots:
         QFETCH(QStringList, expected);
         QCOMPARE(exportsByQRegExp(bytes), expected);
         QCOMPARE(exportsByScan(bytes), expected);
+        QCOMPARE(namesByScan(bytes), namesOf(expected));
     }
 
     void findsTheExportsOfRandomFiles()
@@ -181,12 +200,15 @@ private slots:
             const QByteArray bytes = lines.fileBytes();
             const QStringList expected = exportsByQRegExp(bytes);
             const QStringList actual = exportsByScan(bytes);
-            if (actual != expected) {
+            const QStringList names = namesByScan(bytes);
+            if (actual != expected || names != namesOf(expected)) {
                 QFAIL(qPrintable(
-                    QStringLiteral("file %1 (%2): QRegExp gives \"%3\", the scan \"%4\"")
+                    QStringLiteral(
+                        "file %1 (%2): QRegExp gives \"%3\", the scans \"%4\" and \"%5\"")
                         .arg(i)
                         .arg(QString::fromLatin1(bytes.toPercentEncoding()),
-                             expected.join(QLatin1Char(',')), actual.join(QLatin1Char(',')))));
+                             expected.join(QLatin1Char(',')), actual.join(QLatin1Char(',')),
+                             names.join(QLatin1Char(',')))));
             }
         }
     }
