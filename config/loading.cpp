@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
+#include <QSet>
 #include <QSettings>
 
 #include <string_view>
@@ -16,24 +17,39 @@ void EveModel::loadEnvironment(QList<QStringList> &records)
 {
     records.clear();
     const QStringList environment = QProcess::systemEnvironment();
+    const QString system = tr("System");
+    const QString local = QStringLiteral("local");
+
+    // Only a variable with a group of its own under "variables" can have a
+    // stored description or mark; asking the settings once for those groups
+    // saves two look-ups for every other variable.
     QSettings settings;
+    settings.beginGroup(QStringLiteral("variables"));
+    const QStringList storedGroups = settings.childGroups();
+    settings.endGroup();
+    const QSet<QString> stored(storedGroups.cbegin(), storedGroups.cend());
+
     for (const QString &entry : environment) {
         QStringList record = LineGrammar::nameAndValue(entry);
         const QString name = record.at(VariableColumn);
         if (name.isEmpty())
             continue;
         scanEnvironmentEntry(record);
-        record << tr("System") << QString() << QStringLiteral("local") << QString() << QString();
+        record.reserve(ColumnCount);
+        record << system << QString() << local << QString() << QString();
         describeKnownVariable(record);
 
         // What the user wrote for a variable wins over the catalogue, also
         // when it is an empty text.
-        settings.beginGroup(QStringLiteral("variables/") + name);
-        if (settings.contains(QStringLiteral("description")))
-            record[DescriptionColumn] = settings.value(QStringLiteral("description")).toString();
-        if (settings.contains(QStringLiteral("vip")))
-            record[VipColumn] = settings.value(QStringLiteral("vip")).toString();
-        settings.endGroup();
+        if (!stored.isEmpty() && stored.contains(name)) {
+            settings.beginGroup(QStringLiteral("variables/") + name);
+            if (settings.contains(QStringLiteral("description")))
+                record[DescriptionColumn] =
+                    settings.value(QStringLiteral("description")).toString();
+            if (settings.contains(QStringLiteral("vip")))
+                record[VipColumn] = settings.value(QStringLiteral("vip")).toString();
+            settings.endGroup();
+        }
         records.append(record);
     }
 }
@@ -59,6 +75,7 @@ void EveModel::loadFiles()
     std::vector<QByteArray> names;
     names.reserve(size_t(rows.size()));
     std::unordered_map<std::string_view, int> lastFile;
+    lastFile.reserve(size_t(rows.size()));
     for (const QStringList &row : qAsConst(rows)) {
         names.push_back(row.value(VariableColumn).toUtf8());
         lastFile.emplace(std::string_view(names.back().constData(), size_t(names.back().size())),
