@@ -41,6 +41,24 @@ const char *findKeyword(const char *from, const char *end)
     return nullptr;
 }
 
+// The first "export" in the line at or after `from`, or -1; found through
+// its "x", as in the bytes.
+int findKeyword(QStringView line, int from)
+{
+    const QChar *s = line.data();
+    const int n = int(line.size());
+    for (int x = from + 1; x + 5 <= n; ++x) {
+        x = int(line.indexOf(QLatin1Char('x'), x));
+        if (x < 0 || x + 5 > n)
+            return -1;
+        if (s[x - 1] == QLatin1Char('e') && s[x + 1] == QLatin1Char('p') &&
+            s[x + 2] == QLatin1Char('o') && s[x + 3] == QLatin1Char('r') &&
+            s[x + 4] == QLatin1Char('t'))
+            return x - 1;
+    }
+    return -1;
+}
+
 } // namespace
 
 bool findExport(QStringView line, ExportSpan *span)
@@ -48,7 +66,7 @@ bool findExport(QStringView line, ExportSpan *span)
     const QChar *s = line.data();
     const int n = int(line.size());
     for (int from = 0;;) {
-        const int at = int(line.indexOf(keyword, from));
+        const int at = findKeyword(line, from);
         if (at < 0)
             return false;
         from = at + 1;

@@ -15,7 +15,7 @@ cd "$(dirname "$0")/.."
 
 packages="cmake make g++ qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core"
 if [ "$mode" = test ]; then
-    packages="$packages xvfb xauth x11-utils xdotool openbox desktop-file-utils appstream libbenchmark-dev"
+    packages="$packages xvfb xauth x11-utils xdotool openbox desktop-file-utils appstream libbenchmark-dev libx11-dev dbus-daemon"
 fi
 
 missing=""
