@@ -193,11 +193,10 @@ Quick quickFindExport(const char *s, int n, int *nameStart, int *nameLength)
         const int at = int(word - s);
         from = word + 1;
 
-        if (at > 0 && (!isAscii(s[at - 1]) || isAsciiWord(s[at - 1]))) {
-            if (!isAscii(s[at - 1]))
-                return Quick::Unsure;
+        if (at > 0 && !isAscii(s[at - 1]))
+            return Quick::Unsure;
+        if (at > 0 && isAsciiWord(s[at - 1]))
             continue;
-        }
         int i = at + keyword.size();
         while (i < n && isAsciiSpace(s[i]))
             ++i;
