@@ -5,10 +5,11 @@
 # runtime and system directories; never the real home or /etc), for a small
 # and a large session. Prints the medians and the ratio per size.
 #
-# usage: bench/startup.sh [-n RUNS] [-s "VARIABLES:LINES ..."] [BUILD_DIR]
+# usage: bench/startup.sh [-n RUNS] [-s "VARIABLES:LINES ..."] [-B] [BUILD_DIR]
 #   RUNS       starts of each program per size (default 21)
 #   VARIABLES  variables in the environment of both programs
 #   LINES      export and other shell lines, half in /etc/profile, half in ~/.bashrc
+#   -B         take the programs as built, without building them first
 #   BUILD_DIR  build directory (default: build/ in the source tree); it is
 #              configured as a Release build when it does not exist yet
 set -eu
@@ -16,26 +17,33 @@ set -eu
 runs=21
 sizes="50:0 2000:50000"
 timeout_ms=20000
-while getopts "n:s:" option; do
+build=yes
+while getopts "n:s:B" option; do
     case $option in
     n) runs=$OPTARG ;;
     s) sizes=$OPTARG ;;
-    *) sed -n '8,13p' "$0" >&2; exit 2 ;;
+    B) build=no ;;
+    *) sed -n '8,14p' "$0" >&2; exit 2 ;;
     esac
 done
 shift $((OPTIND - 1))
 source_dir=$(cd "$(dirname "$0")/.." && pwd)
 build_dir=$(realpath -m "${1:-$source_dir/build}")
 
-if [ ! -f "$build_dir/CMakeCache.txt" ]; then
-    cmake -S "$source_dir" -B "$build_dir" -DCMAKE_BUILD_TYPE=Release >/dev/null
+if [ $build = yes ]; then
+    if [ ! -f "$build_dir/CMakeCache.txt" ]; then
+        cmake -S "$source_dir" -B "$build_dir" -DCMAKE_BUILD_TYPE=Release >/dev/null
+    fi
+    cmake --build "$build_dir" --parallel 2 --target orv-admin-env bare_table startup_timer >/dev/null
+    build_type=$(sed -n 's/^CMAKE_BUILD_TYPE:[A-Z]*=//p' "$build_dir/CMakeCache.txt")
+    [ "$build_type" = Release ] || echo "note: $build_dir is a ${build_type:-plain} build, not Release"
 fi
-cmake --build "$build_dir" --parallel 2 --target orv-admin-env bare_table startup_timer >/dev/null
 editor=$build_dir/orv-admin-env
 bare=$build_dir/bench/bare_table
 timer=$build_dir/bench/startup_timer
-build_type=$(sed -n 's/^CMAKE_BUILD_TYPE:[A-Z]*=//p' "$build_dir/CMakeCache.txt")
-[ "$build_type" = Release ] || echo "note: $build_dir is a ${build_type:-plain} build, not Release"
+for program in "$editor" "$bare" "$timer"; do
+    [ -x "$program" ] || { echo "missing: $program" >&2; exit 1; }
+done
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/orv-startup-XXXXXX")
 xvfb=""
