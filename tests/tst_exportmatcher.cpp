@@ -155,10 +155,12 @@ private slots:
             const QString expected = byQRegExp(line);
             const QString actual = byMatcher(line);
             if (actual != expected) {
+                // Percent-encoded, as the lines hold control characters.
+                const QString shown = QString::fromLatin1(line.toUtf8().toPercentEncoding(" =$#"));
                 QFAIL(qPrintable(QStringLiteral("line %1 \"%2\": QRegExp gives \"%3\", the matcher "
                                                 "\"%4\"")
                                      .arg(i)
-                                     .arg(line, expected, actual)));
+                                     .arg(shown, expected, actual)));
             }
             matches += expected != QLatin1String("no match");
         }
