@@ -11,6 +11,10 @@ int main(int argc, char *argv[])
 {
     // Without a display Qt would abort inside the constructor; say so and stop instead.
     NoDisplayGuard noDisplay;
+    // The editor draws no OpenGL. Without this, Qt prepares the first window
+    // for OpenGL children, and choosing a GLX visual loads the GL driver:
+    // the largest single cost of a start (about half of it under Xvfb).
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     QtSingleApplication app(argc, argv, true);
     noDisplay.release();
     // A second start brings the running editor forward and gives up.

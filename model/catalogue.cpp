@@ -1,5 +1,9 @@
 #include "evemodel.h"
 
+#include <QHash>
+
+#include <iterator>
+
 namespace {
 
 struct KnownVariable
@@ -217,15 +221,20 @@ const KnownVariable knownVariables[] = {
 
 void EveModel::describeKnownVariable(QStringList &record) const
 {
-    const QString name = record.value(VariableColumn);
-    for (const KnownVariable &known : knownVariables) {
-        if (name != QLatin1String(known.name))
-            continue;
-        while (record.size() < ColumnCount)
-            record.append(QString());
-        record[DescriptionColumn] = tr(known.description);
-        if (known.vip)
-            record[VipColumn] = QStringLiteral("true");
+    // Looked up by name: the environment can hold thousands of variables.
+    static const QHash<QString, int> firstOfName = [] {
+        QHash<QString, int> index; // filled from the back, so the first entry of a name wins
+        for (int i = int(std::size(knownVariables)) - 1; i >= 0; --i)
+            index.insert(QLatin1String(knownVariables[i].name), i);
+        return index;
+    }();
+    const auto found = firstOfName.constFind(record.value(VariableColumn));
+    if (found == firstOfName.constEnd())
         return;
-    }
+    const KnownVariable &known = knownVariables[found.value()];
+    while (record.size() < ColumnCount)
+        record.append(QString());
+    record[DescriptionColumn] = tr(known.description);
+    if (known.vip)
+        record[VipColumn] = QStringLiteral("true");
 }

@@ -103,7 +103,7 @@
 <context>
     <name>EveModel</name>
     <message>
-        <location filename="../model/catalogue.cpp" line="+16"/>
+        <location filename="../model/catalogue.cpp" line="+20"/>
         <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
         <translation>Das Home-Verzeichnis des aktuellen Benutzers; der Standard für den eingebauten Befehl cd. Der Wert dieser Variable wird auch bei der Tilde-Expansion verwendet.</translation>
     </message>
@@ -438,7 +438,7 @@
         <translation>Enthält seit KDE4 die Hauptversionsnummer.</translation>
     </message>
     <message>
-        <location filename="../model/evemodel.cpp" line="+14"/>
+        <location filename="../model/evemodel.cpp" line="+16"/>
         <source>Variable</source>
         <translation>Variable</translation>
     </message>
@@ -482,13 +482,13 @@
     <message>
         <location line="+0"/>
         <location line="+14"/>
-        <location filename="../config/loading.cpp" line="+23"/>
+        <location filename="../config/loading.cpp" line="+20"/>
         <location filename="../config/saving.cpp" line="+39"/>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <location filename="../config/loading.cpp" line="+44"/>
+        <location filename="../config/loading.cpp" line="+74"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>

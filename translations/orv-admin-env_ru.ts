@@ -103,7 +103,7 @@
 <context>
     <name>EveModel</name>
     <message>
-        <location filename="../model/catalogue.cpp" line="+16"/>
+        <location filename="../model/catalogue.cpp" line="+20"/>
         <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
         <translation>Домашний каталог текущего пользователя; каталог по умолчанию для встроенной команды cd. Значение этой переменной также используется при раскрытии тильды.</translation>
     </message>
@@ -438,7 +438,7 @@
         <translation>Начиная с KDE4 содержит основной номер версии.</translation>
     </message>
     <message>
-        <location filename="../model/evemodel.cpp" line="+14"/>
+        <location filename="../model/evemodel.cpp" line="+16"/>
         <source>Variable</source>
         <translation>Переменная</translation>
     </message>
@@ -482,13 +482,13 @@
     <message>
         <location line="+0"/>
         <location line="+14"/>
-        <location filename="../config/loading.cpp" line="+23"/>
+        <location filename="../config/loading.cpp" line="+20"/>
         <location filename="../config/saving.cpp" line="+39"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
     <message>
-        <location filename="../config/loading.cpp" line="+44"/>
+        <location filename="../config/loading.cpp" line="+74"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
