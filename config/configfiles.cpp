@@ -1,20 +1,22 @@
 #include "evemodel.h"
-#include "linefile.h"
 #include "systempaths.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
 
 // Opening read-write creates a missing file; that is how a chosen user file
-// comes to exist after start-up.
+// comes to exist after start-up. Anything but a regular file (a FIFO would
+// block a later read) counts as unopenable.
 bool canOpenReadWrite(const QString &path)
 {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return false;
     QFile file(path);
-    const bool ok = openForRewrite(file);
-    file.close();
-    return ok;
+    return file.open(QIODevice::ReadWrite);
 }
 
 } // namespace

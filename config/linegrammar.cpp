@@ -1,30 +1,6 @@
 #include "linegrammar.h"
 
-#include <algorithm>
-
 namespace LineGrammar {
-
-ExportMatcher::ExportMatcher()
-    : rx(QStringLiteral("\\bexport\\b\\s+\\b(\\w+)=(.+)\\b"), Qt::CaseSensitive, QRegExp::RegExp)
-{}
-
-bool ExportMatcher::match(const QString &line)
-{
-    // Most lines of a start-up file are no exports; skip the engine for them.
-    if (!line.contains(QLatin1String("export")))
-        return false;
-    return rx.indexIn(line) >= 0;
-}
-
-QStringList splitEnvironmentEntry(const QString &entry)
-{
-    // Built once: the environment can hold thousands of entries.
-    thread_local QRegExp rx(QStringLiteral("([a-zA-Z0-9_]+)=(.*)"), Qt::CaseSensitive,
-                            QRegExp::RegExp);
-    if (rx.indexIn(entry) < 0)
-        return {QString(), QString()};
-    return {rx.cap(1), rx.cap(2)};
-}
 
 QString quoteValue(const QString &value)
 {
@@ -101,28 +77,6 @@ bool LineEdits::blankExport(QString &line) const
     line.truncate(start);
     line += QLatin1Char(' ');
     return true;
-}
-
-void writeAssignment(QStringList &lines, const QString &name, const QString &quotedValue)
-{
-    const QString assignment = name + QLatin1Char('=') + quotedValue;
-    const LineEdits edits(name);
-    bool matched = false;
-    for (QString &line : lines)
-        matched = edits.rewriteAssignment(line, assignment) != LineEdits::NoMatch || matched;
-    // A rewritten line holds the assignment; others may in another case.
-    const auto holds = [&assignment](const QString &line) {
-        return line.contains(assignment, Qt::CaseInsensitive);
-    };
-    if (!matched && std::none_of(lines.cbegin(), lines.cend(), holds))
-        lines.prepend(QStringLiteral("export ") + assignment);
-}
-
-void blankExport(QStringList &lines, const QString &name)
-{
-    const LineEdits edits(name);
-    for (QString &line : lines)
-        edits.blankExport(line);
 }
 
 } // namespace LineGrammar

@@ -8,25 +8,6 @@
 // text functions.
 namespace LineGrammar {
 
-// Finds "export NAME=VALUE" anywhere in a line. The value runs to the last
-// word boundary, so quotes and trailing punctuation are partly dropped.
-class ExportMatcher
-{
-public:
-    ExportMatcher();
-    bool match(const QString &line);
-    QString name() const { return rx.cap(1); }
-    QString value() const { return rx.cap(2); }
-
-private:
-    QRegExp rx;
-};
-
-// Splits one NAME=VALUE entry of the process environment into [NAME, VALUE]
-// at the first run of name characters followed by "="; both are empty when
-// the entry holds no such run.
-QStringList splitEnvironmentEntry(const QString &entry);
-
 // Trims the value, escapes its double quotes and wraps it in double quotes
 // when it holds a space.
 QString quoteValue(const QString &value);
@@ -60,12 +41,5 @@ private:
     QRegExp assignmentPattern;
     QRegExp exportPattern;
 };
-
-// Replaces every "NAME=..." up to the end of a line by "NAME=value"; when no
-// line then holds that assignment, an export line for it goes first.
-void writeAssignment(QStringList &lines, const QString &name, const QString &quotedValue);
-
-// Replaces "export ... NAME=..." up to the end of a line by one space.
-void blankExport(QStringList &lines, const QString &name);
 
 } // namespace LineGrammar
