@@ -5,7 +5,6 @@
 #include "exportmatcher.h"
 #include "randomlines.h"
 
-#include <QCoreApplication>
 #include <QRegExp>
 #include <QVector>
 
@@ -84,12 +83,3 @@ void BM_MatchLineWithMatcher(benchmark::State &state)
 BENCHMARK(BM_MatchLineWithMatcher)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

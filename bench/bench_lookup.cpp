@@ -79,13 +79,3 @@ void BM_WhereSet50kLines(benchmark::State &state)
 BENCHMARK(BM_WhereSet50kLines)->Arg(1000)->Arg(10)->Arg(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    Sandbox::prepareProcess();
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

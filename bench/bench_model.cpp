@@ -4,7 +4,6 @@
 #include "evemodel.h"
 #include "sandbox.h"
 
-#include <QApplication>
 #include <QRandomGenerator>
 
 #include <benchmark/benchmark.h>
@@ -73,13 +72,3 @@ void BM_Load10kVariables100kLines(benchmark::State &state)
 BENCHMARK(BM_Load10kVariables100kLines)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    Sandbox::prepareProcess();
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -5,8 +5,6 @@
 #include "evemodel.h"
 #include "sandbox.h"
 
-#include <QApplication>
-
 #include <benchmark/benchmark.h>
 
 #include <spawn.h>
@@ -119,13 +117,3 @@ void BM_SedOneVariableInto1MiB(benchmark::State &state)
 BENCHMARK(BM_SedOneVariableInto1MiB)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    Sandbox::prepareProcess();
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
