@@ -6,6 +6,7 @@
 #include "randomlines.h"
 
 #include <QRegExp>
+#include <QStringList>
 #include <QVector>
 
 #include <benchmark/benchmark.h>
