@@ -35,7 +35,7 @@ PreviewDialog::PreviewDialog(const ChangePreview &preview, const QString &home, 
     : QDialog(parent)
 {
     setWindowTitle(tr("Preview changes"));
-    resize(820, 560);
+    resize(960, 600);
 
     QString summary;
     if (preview.files.isEmpty())
@@ -76,6 +76,7 @@ PreviewDialog::PreviewDialog(const ChangePreview &preview, const QString &home, 
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Close, this);
     saveButton = buttons->button(QDialogButtonBox::Save);
+    saveButton->setText(tr("&Save"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -37,7 +37,7 @@ RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &hom
     , home(home)
 {
     setWindowTitle(tr("Restore an earlier version"));
-    resize(860, 560);
+    resize(960, 600);
 
     folderLabel = wrappedLabel(this);
     folderLabel->setObjectName(QStringLiteral("folderLabel"));

@@ -926,6 +926,11 @@ werden (sie bleibt, wie sie war).
         <source>%1 (after saving)</source>
         <translation>%1 (nach dem Speichern)</translation>
     </message>
+    <message>
+        <location line="+10"/>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
 </context>
 <context>
     <name>Restore</name>
@@ -960,7 +965,7 @@ werden (sie bleibt, wie sie war).
     <message>
         <location filename="../history/restorecommand.cpp" line="+16"/>
         <source>&amp;Restore...</source>
-        <translation>&amp;Wiederherstellen...</translation>
+        <translation>Wieder&amp;herstellen...</translation>
     </message>
     <message>
         <location line="+3"/>

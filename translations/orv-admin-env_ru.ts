@@ -925,6 +925,11 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <source>%1 (after saving)</source>
         <translation>%1 (после сохранения)</translation>
     </message>
+    <message>
+        <location line="+10"/>
+        <source>&amp;Save</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
 </context>
 <context>
     <name>Restore</name>
