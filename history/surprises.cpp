@@ -4,6 +4,7 @@
 #include "linediff.h"
 #include "linegrammar.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -109,6 +110,45 @@ bool setsName(const QString &line, const QString &name)
     return false;
 }
 
+// Which of a list of names a line holds followed by "=", found from the
+// line's "=" signs rather than by trying every name.
+class NameFinder
+{
+public:
+    explicit NameFinder(const QStringList &names)
+    {
+        for (int i = 0; i < names.size(); ++i) {
+            if (!names.at(i).isEmpty() &&
+                std::all_of(names.at(i).cbegin(), names.at(i).cend(), isNameChar))
+                plain.insert(names.at(i), i);
+            else
+                odd.append(i);
+        }
+    }
+
+    // Indices into the names, in their order; names that are no shell
+    // names are always among them.
+    QVector<int> in(const QString &line) const
+    {
+        QVector<int> found = odd;
+        for (int at = line.indexOf(QLatin1Char('=')); at >= 0;
+             at = line.indexOf(QLatin1Char('='), at + 1)) {
+            // A name before "=" may be the end of a longer one.
+            for (int start = nameStart(line, at); start < at; ++start) {
+                const int index = plain.value(line.mid(start, at - start), -1);
+                if (index >= 0 && !found.contains(index))
+                    found.append(index);
+            }
+        }
+        std::sort(found.begin(), found.end());
+        return found;
+    }
+
+private:
+    QHash<QString, int> plain;
+    QVector<int> odd;
+};
+
 } // namespace
 
 bool Surprises::isEmpty() const
@@ -135,6 +175,8 @@ Surprises Surprises::find(const QByteArray &before, const QByteArray &after,
     QVector<LineGrammar::LineEdits> blanks;
     for (const QString &name : deleted)
         blanks.append(LineGrammar::LineEdits(name));
+    const NameFinder savedFinder(saved);
+    const NameFinder deletedFinder(deleted);
 
     const auto commented = [&found](int line) {
         if (!found.commentedLines.contains(line))
@@ -144,7 +186,7 @@ Surprises Surprises::find(const QByteArray &before, const QByteArray &after,
         for (int index = change.oldStart; index < change.oldStart + change.oldCount; ++index) {
             const QString text = lineText(oldLines.at(index));
             const int number = index + 1;
-            for (int i = 0; i < saved.size(); ++i) {
+            for (int i : savedFinder.in(text)) {
                 // The rewrite keeps the line up to where the assignment starts.
                 QString rewritten = text;
                 const QString assignment = saved.at(i) + QLatin1Char('=');
@@ -161,7 +203,7 @@ Surprises Surprises::find(const QByteArray &before, const QByteArray &after,
                 else if (const QString rest = text.mid(end).trimmed(); !rest.isEmpty())
                     found.lostTexts.append({number, saved.at(i), rest});
             }
-            for (int i = 0; i < deleted.size(); ++i) {
+            for (int i : deletedFinder.in(text)) {
                 QString blanked = text;
                 if (!blanks.at(i).blankExport(blanked))
                     continue;
