@@ -3,7 +3,6 @@
 #include "backups.h"
 #include "linediff.h"
 #include "restore.h"
-#include "restoredialog.h"
 
 #include <QFileInfo>
 #include <QIODevice>
@@ -28,8 +27,8 @@ int list(const QStringList &arguments, QIODevice *out, QIODevice *err)
     const QList<Backups::Copy> copies = Backups::list(file);
     for (const Backups::Copy &copy : copies)
         print(out, QStringLiteral("%1\t%2\t%3\t%4\n")
-                       .arg(RestoreDialog::timeText(copy.time), QString::number(copy.size),
-                            copy.original, QFileInfo(copy.path).fileName()));
+                       .arg(Restore::timeText(copy.time), QString::number(copy.size), copy.original,
+                            QFileInfo(copy.path).fileName()));
     if (copies.isEmpty())
         print(err, file.isEmpty()
                        ? BackupsTool::tr("No copies are kept in %1.\n").arg(Backups::directory())
@@ -80,7 +79,7 @@ int restore(const Backups::Copy &copy, QIODevice *out, QIODevice *err)
         return BackupsTool::RestoreFailed;
     }
     print(out, BackupsTool::tr("Restored %1 from its copy of %2.\n")
-                   .arg(copy.original, RestoreDialog::timeText(copy.time)));
+                   .arg(copy.original, Restore::timeText(copy.time)));
     if (!result.keptCopy.isEmpty())
         print(out, BackupsTool::tr("What it held before is kept in %1.\n").arg(result.keptCopy));
     return BackupsTool::Success;

@@ -65,3 +65,8 @@ Restore Restore::copy(const QString &copyPath, const QString &original)
     result.restored = true;
     return result;
 }
+
+QString Restore::timeText(const QDateTime &time)
+{
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QString>
 
 // Bringing an earlier copy of a start-up file back, with the safety of a
@@ -27,4 +28,7 @@ public:
     QString keptCopy; // the copy of what the file held before, if one was made
 
     static Restore copy(const QString &copyPath, const QString &original);
+
+    // A copy's time as the user reads it: local, to the second.
+    static QString timeText(const QDateTime &time);
 };

@@ -58,9 +58,8 @@ void RestoreCommand::run()
     const QString file = WhereSet::displayPath(copy.original, model->homeDir);
     window->reloadModel(
         restore.keptCopy.isEmpty()
-            ? tr("%1 was restored from its copy of %2.")
-                  .arg(file, RestoreDialog::timeText(copy.time))
+            ? tr("%1 was restored from its copy of %2.").arg(file, Restore::timeText(copy.time))
             : tr("%1 was restored from its copy of %2; what it held before is kept as a copy.")
-                  .arg(file, RestoreDialog::timeText(copy.time)),
+                  .arg(file, Restore::timeText(copy.time)),
         5000);
 }

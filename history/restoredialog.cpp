@@ -27,11 +27,6 @@ QLabel *wrappedLabel(QWidget *parent)
 
 } // namespace
 
-QString RestoreDialog::timeText(const QDateTime &time)
-{
-    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-}
-
 RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &home, QWidget *parent)
     : QDialog(parent)
     , home(home)
@@ -67,7 +62,7 @@ RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &hom
             if (copies.at(i).original != file)
                 continue;
             auto *item =
-                new QTreeWidgetItem(fileItem, {timeText(copies.at(i).time),
+                new QTreeWidgetItem(fileItem, {Restore::timeText(copies.at(i).time),
                                                locale().formattedDataSize(copies.at(i).size)});
             item->setData(0, copyRole, i);
             item->setToolTip(0, copies.at(i).path);
@@ -145,7 +140,7 @@ void RestoreDialog::showChosen()
 
     const Backups::Copy &copy = copies.at(index);
     const QString file = WhereSet::displayPath(copy.original, home);
-    const QString time = timeText(copy.time);
+    const QString time = Restore::timeText(copy.time);
     const Restore::Contents kept = Restore::read(copy.path);
     if (!kept.readable || !kept.exists) {
         statusLabel->setText(

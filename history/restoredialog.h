@@ -29,8 +29,6 @@ public:
     DiffView *diffView;
     QPushButton *restoreButton;
 
-    static QString timeText(const QDateTime &time);
-
 private:
     void showChosen();
 

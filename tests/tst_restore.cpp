@@ -172,11 +172,10 @@ private slots:
         const QMap<QString, QString> expected = {
             {"folder", "The earlier copies cannot be listed: the folder " + bashrc() +
                            "/data/Orv/orv-admin-env/backups cannot be read: Not a directory."},
-            {"status", copyGone
-                           ? "The copy of ~/.bashrc from " + RestoreDialog::timeText(copy.time) +
-                                 " cannot be read: No such file or directory."
-                           : "No earlier copies of ~/.bashrc are kept. A copy is made "
-                             "each time a save or a restore rewrites the file."}};
+            {"status", copyGone ? "The copy of ~/.bashrc from " + Restore::timeText(copy.time) +
+                                      " cannot be read: No such file or directory."
+                                : "No earlier copies of ~/.bashrc are kept. A copy is made "
+                                  "each time a save or a restore rewrites the file."}};
         QCOMPARE(dialog.folderLabel->isVisibleTo(&dialog), folderUnreadable);
         QCOMPARE(message == "folder" ? dialog.folderLabel->text() : dialog.statusLabel->text(),
                  expected.value(message));
@@ -221,7 +220,7 @@ private slots:
         QCOMPARE(copies.size(), 2);
         QCOMPARE(Sandbox::readFile(copies.first().path), secondVersion);
         QCOMPARE(run.out, "Restored " + bashrc().toUtf8() + " from its copy of " +
-                              RestoreDialog::timeText(copy.time).toUtf8() +
+                              Restore::timeText(copy.time).toUtf8() +
                               ".\nWhat it held before is kept in " + copies.first().path.toUtf8() +
                               ".\n");
     }
