@@ -4,7 +4,7 @@
 <context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../history/backupstool.cpp" line="+22"/>
+        <location filename="../history/backupstool.cpp" line="+21"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Der Ordner der Kopien %1 kann nicht gelesen werden: %2
@@ -989,7 +989,7 @@ werden (sie bleibt, wie sie war).
         <translation>%1 wurde aus der Kopie vom %2 wiederhergestellt.</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>%1 was restored from its copy of %2; what it held before is kept as a copy.</source>
         <translation>%1 wurde aus der Kopie vom %2 wiederhergestellt; der bisherige Inhalt ist als Kopie aufbewahrt.</translation>
     </message>
@@ -997,7 +997,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../history/restoredialog.cpp" line="+39"/>
+        <location filename="../history/restoredialog.cpp" line="+34"/>
         <source>Restore an earlier version</source>
         <translation>Frühere Fassung wiederherstellen</translation>
     </message>
@@ -1146,12 +1146,12 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Surprises</name>
     <message>
-        <location filename="../history/surprises.cpp" line="+97"/>
+        <location filename="../history/surprises.cpp" line="+98"/>
         <source>%1 and %2</source>
         <translation>%1 und %2</translation>
     </message>
     <message>
-        <location line="+117"/>
+        <location line="+158"/>
         <source>%1 also changes.</source>
         <translation>%1 ändert sich auch.</translation>
     </message>

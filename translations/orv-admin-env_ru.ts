@@ -4,7 +4,7 @@
 <context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../history/backupstool.cpp" line="+22"/>
+        <location filename="../history/backupstool.cpp" line="+21"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Не удаётся прочитать папку копий %1: %2
@@ -988,7 +988,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>%1 восстановлен из копии от %2.</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>%1 was restored from its copy of %2; what it held before is kept as a copy.</source>
         <translation>%1 восстановлен из копии от %2; прежнее содержимое сохранено как копия.</translation>
     </message>
@@ -996,7 +996,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../history/restoredialog.cpp" line="+39"/>
+        <location filename="../history/restoredialog.cpp" line="+34"/>
         <source>Restore an earlier version</source>
         <translation>Восстановить прежнюю версию</translation>
     </message>
@@ -1145,12 +1145,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Surprises</name>
     <message>
-        <location filename="../history/surprises.cpp" line="+97"/>
+        <location filename="../history/surprises.cpp" line="+98"/>
         <source>%1 and %2</source>
         <translation>%1 и %2</translation>
     </message>
     <message>
-        <location line="+117"/>
+        <location line="+158"/>
         <source>%1 also changes.</source>
         <translation>%1 тоже изменится.</translation>
     </message>
