@@ -9,6 +9,16 @@
 Restore::Contents Restore::read(const QString &path)
 {
     Contents contents;
+    if (SafeFile::isScratch(path)) {
+        // Anyone can plant a file in the shared temporary folder: read it
+        // only under the rules a save uses for it.
+        const SafeFile::Contents safe = SafeFile::read(path);
+        contents.readable = safe.usable || !safe.exists;
+        contents.exists = safe.exists;
+        contents.bytes = safe.bytes;
+        contents.error = safe.error;
+        return contents;
+    }
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink()) {
         contents.readable = true;

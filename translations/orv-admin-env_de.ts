@@ -935,7 +935,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../history/restore.cpp" line="+21"/>
+        <location filename="../history/restore.cpp" line="+31"/>
         <source>it is not a regular file</source>
         <translation>sie ist keine gewöhnliche Datei</translation>
     </message>

@@ -934,7 +934,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../history/restore.cpp" line="+21"/>
+        <location filename="../history/restore.cpp" line="+31"/>
         <source>it is not a regular file</source>
         <translation>это не обычный файл</translation>
     </message>
