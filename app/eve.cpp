@@ -1,6 +1,7 @@
 #include "eve.h"
 
 #include "evemodel.h"
+#include "history.h"
 #include "lookup.h"
 #include "orvintegration.h"
 #include "preferencesdialog.h"
@@ -48,6 +49,7 @@ Eve::Eve(QWidget *parent)
     // Before the window's own connections: the filter must hear of an edit
     // before the re-sort that follows it.
     installLookup(this);
+    installHistory(this);
 
     header = tableView->horizontalHeader();
     header->hideSection(EveModel::ScopeColumn);

@@ -19,6 +19,8 @@ public:
 
     EveModel *eveModel() const { return model; }
     bool isModified() const { return modified; }
+    // Drops unsaved changes and loads everything again.
+    void reloadModel(const QString &message, int timeout);
 
 private slots:
     void checkModelIndex(const QModelIndex &index);
@@ -48,8 +50,6 @@ private:
     bool confirmReset();
     bool confirmDelete();
     void resort();
-    // Drops unsaved changes and loads everything again.
-    void reloadModel(const QString &message, int timeout);
 
     EveModel *model = nullptr;
     QHeaderView *header = nullptr;

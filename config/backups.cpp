@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -99,6 +100,18 @@ QList<Copy> list(const QString &original)
         return a.time != b.time ? a.time > b.time : a.path > b.path;
     });
     return copies;
+}
+
+QString listingError()
+{
+    const QString folder = directory();
+    if (folder.isEmpty())
+        return qt_error_string(ENOENT);
+    DIR *dir = ::opendir(QFile::encodeName(folder).constData());
+    if (!dir)
+        return errno == ENOENT ? QString() : qt_error_string(errno);
+    ::closedir(dir);
+    return QString();
 }
 
 QString keep(const QString &original, const QByteArray &bytes, QString *error)

@@ -38,6 +38,9 @@ bool parseFileName(const QString &name, QString *original, QDateTime *time);
 // The copies of one start-up file, or of all when `original` is empty,
 // newest first.
 QList<Copy> list(const QString &original = QString());
+// Why the copies cannot be listed (no data folder, or one that cannot be
+// read), or a null string. A folder not made yet just holds no copies.
+QString listingError();
 
 // Stores a copy of `bytes` as the newest of `original` and drops the oldest
 // beyond keptPerFile. Returns the copy's path, or an empty string with the

@@ -10,7 +10,8 @@ SavePlan planSave(const SaveInput &input, const FileReader &read)
 {
     SavePlan plan;
     QVector<LineDocument> documents;
-    QHash<QString, int> opened; // path -> index into files, or -1
+    QHash<QString, int> opened;     // path -> index into files, or -1
+    QHash<QString, QString> errors; // path -> why it cannot be opened
 
     // Each path is read once; what could not be opened stays so for this save.
     const auto open = [&](const QString &path) {
@@ -27,6 +28,8 @@ SavePlan planSave(const SaveInput &input, const FileReader &read)
             file.before = contents.bytes;
             plan.files.append(file);
             documents.append(LineDocument::fromBytes(contents.bytes));
+        } else {
+            errors.insert(path, contents.error);
         }
         opened.insert(path, index);
         return index;
@@ -55,8 +58,11 @@ SavePlan planSave(const SaveInput &input, const FileReader &read)
             plan.stopped = true;
             plan.stoppedName = name;
             plan.stoppedPath = fallback;
+            plan.stoppedError = errors.value(fallback);
             break;
         }
+        if (plan.files.at(file).path != target)
+            plan.redirects.append({name, target, fallback, errors.value(target)});
         documents[file].writeAssignment(name,
                                         LineGrammar::quoteValue(row.value(EveModel::ValueColumn)));
         plan.files[file].savedNames.append(name);
@@ -69,7 +75,7 @@ SavePlan planSave(const SaveInput &input, const FileReader &read)
                 continue; // only the environment has it
             const QString name = row.value(EveModel::VariableColumn);
             const int file = open(origin);
-            plan.deletions.append({name, origin, file});
+            plan.deletions.append({name, origin, file, errors.value(origin)});
             if (file < 0)
                 continue;
             documents[file].blankExport(name);

@@ -38,16 +38,27 @@ struct SavePlan
         QString name;
         QString path;
         int file = -1; // into files; -1 when the file cannot be opened
+        QString error; // why it cannot be opened
+    };
+    // A changed row whose own file cannot be opened, saved into the fallback.
+    struct Redirect
+    {
+        QString name;
+        QString origin;
+        QString path;
+        QString error; // why the origin cannot be opened
     };
 
     QList<Settings> settings; // of every changed row handled, the stopping one too
     QVector<File> files;      // in the order they are first touched
     QList<Deletion> deletions;
+    QList<Redirect> redirects;
     // A changed row for which neither its file nor the fallback can be
     // opened stops the save: nothing after it, and no deletions, are planned.
     bool stopped = false;
     QString stoppedName;
     QString stoppedPath; // the fallback, the file tried last
+    QString stoppedError;
 };
 
 struct SaveInput

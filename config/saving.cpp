@@ -1,42 +1,18 @@
-#include "backups.h"
+#include "commit.h"
 #include "evemodel.h"
-#include "safefile.h"
 #include "saveplan.h"
 
 #include <QMessageBox>
 #include <QSettings>
 
-namespace {
-
-// Writes one planned file: a copy of what it held goes to the backups first,
-// then the checked rewrite in place. Returns the reason of a failure, or a
-// null string.
-QString commit(const SavePlan::File &file)
+SaveInput EveModel::saveInput() const
 {
-    if (file.existed && file.after == file.before)
-        return QString();
-    QString error;
-    QString copy;
-    if (file.existed) {
-        // Without a copy (no writable data folder) the save still goes on.
-        QString ignored;
-        copy = Backups::keep(file.path, file.before, &ignored);
-    }
-    bool restored = true;
-    if (SafeFile::rewrite(file.path, file.existed, file.before, file.after, &error, &restored))
-        return QString();
-    if (!restored && !copy.isEmpty())
-        error += QLatin1Char(' ') +
-                 EveModel::tr("Its content from before the save is kept in %1.").arg(copy);
-    return error;
+    return {rows, deletedRows, rootSession, localFile, globalFile, tr("System")};
 }
-
-} // namespace
 
 bool EveModel::save()
 {
-    const SavePlan plan =
-        planSave({rows, deletedRows, rootSession, localFile, globalFile, tr("System")});
+    const SavePlan plan = planSave(saveInput());
 
     // Stored first, so descriptions survive a file that cannot be written.
     if (!plan.settings.isEmpty()) {
@@ -54,7 +30,7 @@ bool EveModel::save()
         const SavePlan::File &file = plan.files.at(i);
         if (file.savedNames.isEmpty())
             continue;
-        const QString error = commit(file);
+        const QString error = commitFile(file);
         if (!error.isNull()) {
             QMessageBox::warning(nullptr, tr("Warning!"),
                                  tr("Couldn't write file %1 for saving variable %2: %3")
@@ -88,7 +64,7 @@ bool EveModel::save()
         if (written.at(deletion.file))
             continue;
         written[deletion.file] = true;
-        const QString error = commit(plan.files.at(deletion.file));
+        const QString error = commitFile(plan.files.at(deletion.file));
         if (!error.isNull()) {
             QMessageBox::warning(nullptr, tr("Warning!"),
                                  tr("Couldn't write file %1 for deleting variable %2: %3")

@@ -293,6 +293,12 @@ Match match(const QString &line, const QString &name, Syntax syntax)
     return result.found ? result : Match();
 }
 
+int shellWordEnd(const QString &line, int pos)
+{
+    Word word;
+    return readWord(line, pos, &word);
+}
+
 QString expandHome(const QString &value, const QString &home)
 {
     static const QRegularExpression homeReference(

@@ -27,6 +27,10 @@ struct Match
 // The last place in the line that sets or exports `name`.
 Match match(const QString &line, const QString &name, Syntax syntax);
 
+// Where the shell word that starts at `pos` ends: quotes, escapes, $(...),
+// ${...} and `...` belong to it.
+int shellWordEnd(const QString &line, int pos);
+
 // `value` with $HOME, ${HOME}, @{HOME} and a leading ~ replaced by `home`.
 QString expandHome(const QString &value, const QString &home);
 

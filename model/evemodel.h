@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class QFile;
+struct SaveInput;
 
 // The table of environment variables: one record of seven strings per row,
 // loaded from the process environment and the shell start-up files, and
@@ -53,6 +54,8 @@ public:
 
     bool reload();
     bool save();
+    // What save() works from: the rows, the pending deletions and the files.
+    SaveInput saveInput() const;
 
     // Configuration-file state, fixed at construction except for the two
     // lists, which the preferences dialog replaces in place.

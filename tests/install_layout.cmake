@@ -22,6 +22,7 @@ endif()
 set(missing)
 foreach(path
         bin/orv-admin-env
+        bin/orv-admin-env-backups
         share/applications/org.orv.admin_env.desktop
         share/metainfo/org.orv.admin_env.metainfo.xml)
     if(NOT EXISTS "${PREFIX}/${path}" OR IS_DIRECTORY "${PREFIX}/${path}")

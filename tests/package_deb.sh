@@ -55,6 +55,7 @@ check "Recommends breeze-icon-theme" has_dependency Recommends breeze-icon-theme
 
 # Files.
 check "the program is executable" test -x "$root/usr/bin/orv-admin-env"
+check "the backups program is executable" test -x "$root/usr/bin/orv-admin-env-backups"
 check "the desktop entry" is_file usr/share/applications/$id.desktop
 check "the AppStream metadata" is_file usr/share/metainfo/$id.metainfo.xml
 check "the scalable icon" is_file usr/share/icons/hicolor/scalable/apps/$id.svg
@@ -74,10 +75,8 @@ for page in "$source"/docs/*.1; do
     name=$(basename "$page")
     check "the manual page $name is compressed" gzip -t "$root/usr/share/man/man1/$name.gz"
 done
-if [ ! -f "$source/docs/orv-admin-env-backups.1" ]; then
-    check "no backups manual page before its source exists" \
-        test ! -e "$root/usr/share/man/man1/orv-admin-env-backups.1.gz"
-fi
+check "the backups program has its manual page" \
+    gzip -t "$root/usr/share/man/man1/orv-admin-env-backups.1.gz"
 strays=$(cd "$root" && find . -type f | sed 's|^\./||' |
     grep -vE '^usr/bin/[^/]+$|^usr/share/(applications|metainfo|man/man1)/[^/]+$' |
     grep -vE '^usr/share/icons/hicolor/[^/]+/apps/[^/]+$|^usr/share/doc/orv-admin-env/[^/]+$')

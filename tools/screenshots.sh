@@ -1,7 +1,8 @@
 #!/bin/bash
 # Takes the editor's screenshots for the README and the AppStream metadata: the main
-# window, the variable editor and Preferences, as a user "alex" sees them on a desktop
-# without its own icon theme (so the Breeze fallback shows, as the package recommends).
+# window, the variable editor, Preferences, the preview of a save and Restore, as a user
+# "alex" sees them on a desktop without its own icon theme (so the Breeze fallback shows,
+# as the package recommends).
 #
 # Usage: tools/screenshots.sh [--dark] PROGRAM [OUTDIR]
 #   PROGRAM  the built editor, e.g. build/orv-admin-env
@@ -80,7 +81,12 @@ cat >/home/alex/.profile <<'EOF'
 if [ -n "$BASH_VERSION" ] && [ -f "$HOME/.bashrc" ]; then
     . "$HOME/.bashrc"
 fi
+
+# set PATH so it includes user's private bin if it exists
+# export PATH="$HOME/bin:$PATH"
 export PATH="$HOME/.local/bin:$PATH"
+export MANPATH="$HOME/.local/share/man:"
+export PYTHONPATH="$HOME/lib/python"
 EOF
 cat >$stage/profile <<'EOF'
 # /etc/profile: system-wide .profile file for the Bourne shell (sh(1))
@@ -226,6 +232,33 @@ xdotool type --delay 20 -- "-Xmx2g -Dfile.encoding=UTF-8"
 xdotool mousemove --window "$editor" 240 230 click 1
 xdotool type --delay 20 "Options of the JVM that runs Maven"
 shoot "$editor" "variable-editor$suffix.png"
+xdotool key --clearmodifiers Escape
+sleep 0.5
+
+# PATH gets one more folder, edited in its cell: P finds the row, Right moves to the
+# value, F2 edits it; PATH is critical, so the editor asks first.
+xdotool windowactivate --sync "$main" key --clearmodifiers p Right F2 End
+xdotool type --delay 20 ":/home/alex/go/bin"
+xdotool key --clearmodifiers Return
+confirm=$(find_window "Request of confirmation")
+[ -n "$confirm" ] || { echo "changing PATH did not ask" >&2; exit 1; }
+xdotool windowactivate --sync "$confirm" key --clearmodifiers alt+y
+sleep 0.5
+
+# What the save will do, then Save from there and Restore... to take it back.
+xdotool windowactivate --sync "$main" key --clearmodifiers ctrl+shift+s
+preview=$(find_window "Preview changes")
+[ -n "$preview" ] || { echo "the preview did not open" >&2; exit 1; }
+shoot "$preview" "preview$suffix.png"
+xdotool key --clearmodifiers alt+s
+saved=$(find_window "Changes were saved")
+[ -n "$saved" ] || { echo "the save did not report" >&2; exit 1; }
+xdotool windowactivate --sync "$saved" key --clearmodifiers Return
+sleep 0.5
+xdotool windowactivate --sync "$main" key --clearmodifiers alt+t r
+restore=$(find_window "Restore an earlier version")
+[ -n "$restore" ] || { echo "Restore did not open" >&2; exit 1; }
+shoot "$restore" "restore$suffix.png"
 xdotool key --clearmodifiers Escape
 
 mkdir -p "$outdir"

@@ -2,9 +2,162 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>BackupsTool</name>
+    <message>
+        <location filename="../history/backupstool.cpp" line="+21"/>
+        <source>Cannot read the folder of copies %1: %2
+</source>
+        <translation>Der Ordner der Kopien %1 kann nicht gelesen werden: %2
+</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>No copies are kept in %1.
+</source>
+        <translation>In %1 liegen keine Kopien.
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No copies of %1 are kept in %2.
+</source>
+        <translation>In %2 liegen keine Kopien von %1.
+</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 is not the name of a copy; &quot;list&quot; shows them.
+</source>
+        <translation>%1 ist nicht der Name einer Kopie; „list“ zeigt sie.
+</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The copy %1 cannot be read: %2
+</source>
+        <translation>Die Kopie %1 kann nicht gelesen werden: %2
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be read: %2
+</source>
+        <translation>%1 kann nicht gelesen werden: %2
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 is the same as the copy.
+</source>
+        <translation>%1 ist gleich der Kopie.
+</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Restored %1 from its copy of %2.
+</source>
+        <translation>%1 aus der Kopie vom %2 wiederhergestellt.
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What it held before is kept in %1.
+</source>
+        <translation>Der bisherige Inhalt liegt in %1.
+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Usage: orv-admin-env-backups list [FILE]
+       orv-admin-env-backups diff COPY
+       orv-admin-env-backups restore COPY
+
+Lists, compares and restores the copies that the Environment Variables Editor
+keeps of a start-up file each time it rewrites it.
+
+  list [FILE]   the copies, newest first, one a line: time, size in bytes,
+                start-up file and copy, separated by tabs; only those of
+                FILE when it is given
+  diff COPY     what restoring COPY would change in its file (unified diff)
+  restore COPY  writes COPY back into its file in place, after keeping a
+                copy of the file as it is now, so a restore can be undone
+  --help        this text
+
+COPY is a copy&apos;s name as list prints it, or the path of a copy.
+The copies are kept in %1.
+
+Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
+2 wrong arguments, 3 the file could not be restored (it is left as it was).
+</source>
+        <translation>Aufruf: orv-admin-env-backups list [DATEI]
+        orv-admin-env-backups diff KOPIE
+        orv-admin-env-backups restore KOPIE
+
+Listet, vergleicht und stellt die Kopien wieder her, die der Editor für
+Umgebungsvariablen von einer Startdatei anlegt, bevor er sie neu schreibt.
+
+  list [DATEI]   die Kopien, neueste zuerst, eine je Zeile: Zeit, Größe in
+                 Bytes, Startdatei und Kopie, durch Tabulatoren getrennt;
+                 nur die von DATEI, wenn sie angegeben ist
+  diff KOPIE     was das Wiederherstellen von KOPIE in ihrer Datei ändern
+                 würde (vereinheitlichtes Diff)
+  restore KOPIE  schreibt KOPIE an Ort und Stelle in ihre Datei zurück, nachdem
+                 die Datei, wie sie jetzt ist, kopiert wurde; so lässt sich auch
+                 eine Wiederherstellung rückgängig machen
+  --help         dieser Text
+
+KOPIE ist der Name einer Kopie, wie list ihn ausgibt, oder der Pfad einer Kopie.
+Die Kopien liegen in %1.
+
+Rückgabewert: 0 erledigt, 1 eine Kopie, eine Datei oder der Ordner der Kopien
+ist nicht lesbar, 2 falsche Argumente, 3 die Datei konnte nicht wiederhergestellt
+werden (sie bleibt, wie sie war).
+</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Wrong arguments.
+</source>
+        <translation>Falsche Argumente.
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unknown command: %1
+</source>
+        <translation>Unbekannter Befehl: %1
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Try &quot;orv-admin-env-backups --help&quot;.
+</source>
+        <translation>Siehe „orv-admin-env-backups --help“.
+</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePreview</name>
+    <message>
+        <location filename="../history/changepreview.cpp" line="+16"/>
+        <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
+        <translation>%1 wird in %2 gespeichert, weil die eigene Datei %3 nicht geöffnet werden kann: %4.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The save will stop at %1: %2 cannot be opened: %3. Nothing after it is saved and no variable is deleted.</source>
+        <translation>Das Speichern bricht bei %1 ab: %2 kann nicht geöffnet werden: %3. Nichts danach wird gespeichert und keine Variable gelöscht.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be deleted: its file %2 cannot be opened: %3.</source>
+        <translation>%1 kann nicht gelöscht werden: die Datei %2 kann nicht geöffnet werden: %3.</translation>
+    </message>
+</context>
+<context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+103"/>
+        <location filename="../app/eve.cpp" line="+105"/>
         <source>Orv environment variable editor</source>
         <translation>Orv-Editor für Umgebungsvariablen</translation>
     </message>
@@ -483,7 +636,7 @@
         <location line="+0"/>
         <location line="+14"/>
         <location filename="../config/loading.cpp" line="+20"/>
-        <location filename="../config/saving.cpp" line="+39"/>
+        <location filename="../config/saving.cpp" line="+10"/>
         <source>System</source>
         <translation>System</translation>
     </message>
@@ -493,12 +646,12 @@
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
     <message>
-        <location filename="../config/saving.cpp" line="-9"/>
+        <location filename="../config/commit.cpp" line="+28"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location filename="../config/saving.cpp" line="+25"/>
         <location line="+9"/>
         <location line="+14"/>
         <location line="+11"/>
@@ -724,6 +877,207 @@
     </message>
 </context>
 <context>
+    <name>PreviewCommand</name>
+    <message>
+        <location filename="../history/previewcommand.cpp" line="+12"/>
+        <source>Pre&amp;view changes...</source>
+        <translation>&amp;Vorschau der Änderungen...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show every line the next save would change in each file</source>
+        <translation>Jede Zeile zeigen, die das nächste Speichern in jeder Datei ändern würde</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDialog</name>
+    <message>
+        <location filename="../history/previewdialog.cpp" line="+37"/>
+        <source>Preview changes</source>
+        <translation>Vorschau der Änderungen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Saving changes no file.</source>
+        <translation>Das Speichern ändert keine Datei.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Saving changes one file.</source>
+        <translation>Das Speichern ändert eine Datei.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Saving changes %1 files.</source>
+        <translation>Das Speichern ändert %1 Dateien.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>%1 (new file)</source>
+        <translation>%1 (neue Datei)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (now)</source>
+        <translation>%1 (jetzt)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (after saving)</source>
+        <translation>%1 (nach dem Speichern)</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>Restore</name>
+    <message>
+        <location filename="../history/restore.cpp" line="+31"/>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>it could not be read completely</source>
+        <translation>sie konnte nicht vollständig gelesen werden</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The copy %1 cannot be read: %2</source>
+        <translation>Die Kopie %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be opened for writing: %2</source>
+        <translation>%1 kann nicht zum Schreiben geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreCommand</name>
+    <message>
+        <location filename="../history/restorecommand.cpp" line="+16"/>
+        <source>&amp;Restore...</source>
+        <translation>Wieder&amp;herstellen...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Put back an earlier version of a start-up file</source>
+        <translation>Eine frühere Fassung einer Startdatei zurückholen</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+8"/>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Restoring reloads the table, so your unsaved changes are lost. Restore anyway?</source>
+        <translation>Das Wiederherstellen lädt die Tabelle neu, Ihre ungespeicherten Änderungen gehen also verloren. Trotzdem wiederherstellen?</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 was restored from its copy of %2.</source>
+        <translation>%1 wurde aus der Kopie vom %2 wiederhergestellt.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 was restored from its copy of %2; what it held before is kept as a copy.</source>
+        <translation>%1 wurde aus der Kopie vom %2 wiederhergestellt; der bisherige Inhalt ist als Kopie aufbewahrt.</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <location filename="../history/restoredialog.cpp" line="+34"/>
+        <source>Restore an earlier version</source>
+        <translation>Frühere Fassung wiederherstellen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The earlier copies cannot be listed: the folder %1 cannot be read: %2.</source>
+        <translation>Die früheren Kopien können nicht aufgelistet werden: der Ordner %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>File and copy</source>
+        <translation>Datei und Kopie</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>no copies</source>
+        <translation>keine Kopien</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>No start-up file has earlier copies.</source>
+        <translation>Von keiner Startdatei gibt es frühere Kopien.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Choose a copy of %1.</source>
+        <translation>Wählen Sie eine Kopie von %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No earlier copies of %1 are kept. A copy is made each time a save or a restore rewrites the file.</source>
+        <translation>Von %1 gibt es keine früheren Kopien. Eine Kopie entsteht jedes Mal, wenn Speichern oder Wiederherstellen die Datei neu schreibt.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The copy of %1 from %2 cannot be read: %3.</source>
+        <translation>Die Kopie von %1 vom %2 kann nicht gelesen werden: %3.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be read now: %2.</source>
+        <translation>%1 kann jetzt nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The copy from %1 is the same as %2 now.</source>
+        <translation>Die Kopie vom %1 ist gleich %2, wie die Datei jetzt ist.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restoring the copy from %1 changes these lines of %2:</source>
+        <translation>Das Wiederherstellen der Kopie vom %1 ändert diese Zeilen von %2:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 does not exist now; restoring the copy from %2 makes it again.</source>
+        <translation>%1 gibt es jetzt nicht; das Wiederherstellen der Kopie vom %2 legt sie wieder an.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 (now)</source>
+        <translation>%1 (jetzt)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (copy from %2)</source>
+        <translation>%1 (Kopie vom %2)</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <location filename="../config/safefile.cpp" line="+30"/>
@@ -744,6 +1098,87 @@
         <location line="+152"/>
         <source>another program changed it during the save</source>
         <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
+    </message>
+</context>
+<context>
+    <name>ShellCheck</name>
+    <message>
+        <location filename="../history/shellcheck.cpp" line="+41"/>
+        <source>csh files are not checked</source>
+        <translation>csh-Dateien werden nicht geprüft</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 could not be started</source>
+        <translation>%1 konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 did not finish within %2 seconds</source>
+        <translation>%1 wurde nicht innerhalb von %2 Sekunden fertig</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 -n: the file still parses.</source>
+        <translation>%1 -n: die Datei ist weiterhin syntaktisch korrekt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 -n: the file would not parse, and does not parse now either: %2</source>
+        <translation>%1 -n: die Datei wäre syntaktisch fehlerhaft, und sie ist es auch jetzt schon: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 -n: the file would no longer parse: %2</source>
+        <translation>%1 -n: die Datei wäre nicht mehr syntaktisch korrekt: %2</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Not checked whether the file still parses: %1.</source>
+        <translation>Nicht geprüft, ob die Datei syntaktisch korrekt bleibt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Surprises</name>
+    <message>
+        <location filename="../history/surprises.cpp" line="+98"/>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <location line="+158"/>
+        <source>%1 also changes.</source>
+        <translation>%1 ändert sich auch.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 also change.</source>
+        <translation>%1 ändern sich auch.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A commented-out line changes: line %1.</source>
+        <translation>Eine auskommentierte Zeile ändert sich: Zeile %1.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Commented-out lines change: lines %1.</source>
+        <translation>Auskommentierte Zeilen ändern sich: Zeilen %1.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Line %1 loses &quot;%2&quot;, which follows the value of %3.</source>
+        <translation>Zeile %1 verliert „%2“, das auf den Wert von %3 folgt.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is saved into no line of its own: this file will not set it.</source>
+        <translation>%1 wird in keine eigene Zeile gespeichert: diese Datei wird sie nicht setzen.</translation>
     </message>
 </context>
 <context>

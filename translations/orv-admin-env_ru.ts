@@ -2,9 +2,161 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>BackupsTool</name>
+    <message>
+        <location filename="../history/backupstool.cpp" line="+21"/>
+        <source>Cannot read the folder of copies %1: %2
+</source>
+        <translation>Не удаётся прочитать папку копий %1: %2
+</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>No copies are kept in %1.
+</source>
+        <translation>В %1 нет копий.
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No copies of %1 are kept in %2.
+</source>
+        <translation>В %2 нет копий %1.
+</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 is not the name of a copy; &quot;list&quot; shows them.
+</source>
+        <translation>%1 — не имя копии; их показывает «list».
+</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The copy %1 cannot be read: %2
+</source>
+        <translation>Не удаётся прочитать копию %1: %2
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be read: %2
+</source>
+        <translation>Не удаётся прочитать %1: %2
+</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 is the same as the copy.
+</source>
+        <translation>%1 совпадает с копией.
+</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Restored %1 from its copy of %2.
+</source>
+        <translation>%1 восстановлен из копии от %2.
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What it held before is kept in %1.
+</source>
+        <translation>Прежнее содержимое сохранено в %1.
+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Usage: orv-admin-env-backups list [FILE]
+       orv-admin-env-backups diff COPY
+       orv-admin-env-backups restore COPY
+
+Lists, compares and restores the copies that the Environment Variables Editor
+keeps of a start-up file each time it rewrites it.
+
+  list [FILE]   the copies, newest first, one a line: time, size in bytes,
+                start-up file and copy, separated by tabs; only those of
+                FILE when it is given
+  diff COPY     what restoring COPY would change in its file (unified diff)
+  restore COPY  writes COPY back into its file in place, after keeping a
+                copy of the file as it is now, so a restore can be undone
+  --help        this text
+
+COPY is a copy&apos;s name as list prints it, or the path of a copy.
+The copies are kept in %1.
+
+Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
+2 wrong arguments, 3 the file could not be restored (it is left as it was).
+</source>
+        <translation>Использование: orv-admin-env-backups list [ФАЙЛ]
+               orv-admin-env-backups diff КОПИЯ
+               orv-admin-env-backups restore КОПИЯ
+
+Показывает, сравнивает и восстанавливает копии, которые редактор переменных
+окружения сохраняет перед каждой перезаписью файла запуска.
+
+  list [ФАЙЛ]     копии, сначала новые, по одной в строке: время, размер в
+                  байтах, файл запуска и копия, через табуляцию; если ФАЙЛ
+                  указан, то только его копии
+  diff КОПИЯ      что изменит в своём файле восстановление КОПИИ
+                  (унифицированный diff)
+  restore КОПИЯ   записывает КОПИЮ обратно в её файл на месте, сохранив перед
+                  этим копию файла в нынешнем виде, так что восстановление
+                  тоже можно отменить
+  --help          этот текст
+
+КОПИЯ — имя копии в том виде, в каком его выводит list, или путь к копии.
+Копии хранятся в %1.
+
+Код возврата: 0 готово, 1 копию, файл или папку копий не удаётся прочитать,
+2 неверные аргументы, 3 файл восстановить не удалось (он остался прежним).
+</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Wrong arguments.
+</source>
+        <translation>Неверные аргументы.
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unknown command: %1
+</source>
+        <translation>Неизвестная команда: %1
+</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Try &quot;orv-admin-env-backups --help&quot;.
+</source>
+        <translation>Попробуйте «orv-admin-env-backups --help».
+</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePreview</name>
+    <message>
+        <location filename="../history/changepreview.cpp" line="+16"/>
+        <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
+        <translation>%1 будет сохранена в %2, потому что её файл %3 не удаётся открыть: %4.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The save will stop at %1: %2 cannot be opened: %3. Nothing after it is saved and no variable is deleted.</source>
+        <translation>Сохранение остановится на %1: не удаётся открыть %2: %3. Ничего после неё не будет сохранено, и ни одна переменная не будет удалена.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be deleted: its file %2 cannot be opened: %3.</source>
+        <translation>%1 не удастся удалить: её файл %2 не удаётся открыть: %3.</translation>
+    </message>
+</context>
+<context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+103"/>
+        <location filename="../app/eve.cpp" line="+105"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -483,7 +635,7 @@
         <location line="+0"/>
         <location line="+14"/>
         <location filename="../config/loading.cpp" line="+20"/>
-        <location filename="../config/saving.cpp" line="+39"/>
+        <location filename="../config/saving.cpp" line="+10"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
@@ -493,12 +645,12 @@
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
     <message>
-        <location filename="../config/saving.cpp" line="-9"/>
+        <location filename="../config/commit.cpp" line="+28"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Его содержимое до сохранения находится в %1.</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location filename="../config/saving.cpp" line="+25"/>
         <location line="+9"/>
         <location line="+14"/>
         <location line="+11"/>
@@ -724,6 +876,207 @@
     </message>
 </context>
 <context>
+    <name>PreviewCommand</name>
+    <message>
+        <location filename="../history/previewcommand.cpp" line="+12"/>
+        <source>Pre&amp;view changes...</source>
+        <translation>&amp;Предпросмотр изменений...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show every line the next save would change in each file</source>
+        <translation>Показать каждую строку, которую следующее сохранение изменит в каждом файле</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDialog</name>
+    <message>
+        <location filename="../history/previewdialog.cpp" line="+37"/>
+        <source>Preview changes</source>
+        <translation>Предпросмотр изменений</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Saving changes no file.</source>
+        <translation>Сохранение не изменит ни одного файла.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Saving changes one file.</source>
+        <translation>Сохранение изменит один файл.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Saving changes %1 files.</source>
+        <translation>Сохранение изменит файлов: %1.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>%1 (new file)</source>
+        <translation>%1 (новый файл)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (now)</source>
+        <translation>%1 (сейчас)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (after saving)</source>
+        <translation>%1 (после сохранения)</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>&amp;Save</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
+</context>
+<context>
+    <name>Restore</name>
+    <message>
+        <location filename="../history/restore.cpp" line="+31"/>
+        <source>it is not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>it could not be read completely</source>
+        <translation>его не удалось прочитать полностью</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The copy %1 cannot be read: %2</source>
+        <translation>Не удаётся прочитать копию %1: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be opened for writing: %2</source>
+        <translation>Не удаётся открыть %1 для записи: %2</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>%1 could not be written: %2</source>
+        <translation>Не удалось записать %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreCommand</name>
+    <message>
+        <location filename="../history/restorecommand.cpp" line="+16"/>
+        <source>&amp;Restore...</source>
+        <translation>&amp;Восстановить...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Put back an earlier version of a start-up file</source>
+        <translation>Вернуть прежнюю версию файла запуска</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <location line="+8"/>
+        <source>Restore</source>
+        <translation>Восстановление</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Restoring reloads the table, so your unsaved changes are lost. Restore anyway?</source>
+        <translation>Восстановление заново загружает таблицу, поэтому несохранённые изменения будут потеряны. Всё равно восстановить?</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 was restored from its copy of %2.</source>
+        <translation>%1 восстановлен из копии от %2.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 was restored from its copy of %2; what it held before is kept as a copy.</source>
+        <translation>%1 восстановлен из копии от %2; прежнее содержимое сохранено как копия.</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <location filename="../history/restoredialog.cpp" line="+34"/>
+        <source>Restore an earlier version</source>
+        <translation>Восстановить прежнюю версию</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The earlier copies cannot be listed: the folder %1 cannot be read: %2.</source>
+        <translation>Не удаётся показать прежние копии: не удаётся прочитать папку %1: %2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>File and copy</source>
+        <translation>Файл и копия</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>no copies</source>
+        <translation>нет копий</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>&amp;Restore</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>No start-up file has earlier copies.</source>
+        <translation>Ни у одного файла запуска нет прежних копий.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Choose a copy of %1.</source>
+        <translation>Выберите копию %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No earlier copies of %1 are kept. A copy is made each time a save or a restore rewrites the file.</source>
+        <translation>Прежних копий %1 нет. Копия создаётся каждый раз, когда сохранение или восстановление перезаписывает файл.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The copy of %1 from %2 cannot be read: %3.</source>
+        <translation>Не удаётся прочитать копию %1 от %2: %3.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 cannot be read now: %2.</source>
+        <translation>Сейчас не удаётся прочитать %1: %2.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The copy from %1 is the same as %2 now.</source>
+        <translation>Копия от %1 совпадает с нынешним %2.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restoring the copy from %1 changes these lines of %2:</source>
+        <translation>Восстановление копии от %1 изменит эти строки %2:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 does not exist now; restoring the copy from %2 makes it again.</source>
+        <translation>%1 сейчас нет; восстановление копии от %2 создаст его снова.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 (now)</source>
+        <translation>%1 (сейчас)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 (copy from %2)</source>
+        <translation>%1 (копия от %2)</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <location filename="../config/safefile.cpp" line="+30"/>
@@ -744,6 +1097,87 @@
         <location line="+152"/>
         <source>another program changed it during the save</source>
         <translation>другая программа изменила его во время сохранения</translation>
+    </message>
+</context>
+<context>
+    <name>ShellCheck</name>
+    <message>
+        <location filename="../history/shellcheck.cpp" line="+41"/>
+        <source>csh files are not checked</source>
+        <translation>файлы csh не проверяются</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 is not installed</source>
+        <translation>%1 не установлен</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 could not be started</source>
+        <translation>не удалось запустить %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 did not finish within %2 seconds</source>
+        <translation>%1 не завершился за %2 с</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 -n: the file still parses.</source>
+        <translation>%1 -n: синтаксис файла по-прежнему верен.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 -n: the file would not parse, and does not parse now either: %2</source>
+        <translation>%1 -n: синтаксис файла будет неверен, как и сейчас: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 -n: the file would no longer parse: %2</source>
+        <translation>%1 -n: синтаксис файла станет неверным: %2</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Not checked whether the file still parses: %1.</source>
+        <translation>Синтаксис файла не проверен: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Surprises</name>
+    <message>
+        <location filename="../history/surprises.cpp" line="+98"/>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <location line="+158"/>
+        <source>%1 also changes.</source>
+        <translation>%1 тоже изменится.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 also change.</source>
+        <translation>%1 тоже изменятся.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A commented-out line changes: line %1.</source>
+        <translation>Изменится закомментированная строка: строка %1.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Commented-out lines change: lines %1.</source>
+        <translation>Изменятся закомментированные строки: строки %1.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Line %1 loses &quot;%2&quot;, which follows the value of %3.</source>
+        <translation>Строка %1 потеряет «%2» после значения %3.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is saved into no line of its own: this file will not set it.</source>
+        <translation>%1 не получит своей строки: этот файл не будет её задавать.</translation>
     </message>
 </context>
 <context>
