@@ -7,7 +7,6 @@
 
 #include <QtTest>
 
-#include <csignal>
 #include <dlfcn.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -44,28 +43,6 @@ private:
     {
         reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, "orv_failio_reset"))();
     }
-};
-
-// A file-size limit with SIGXFSZ ignored, as long as the object lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &saved);
-        previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-        const struct rlimit limit = {bytes, saved.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &saved);
-        std::signal(SIGXFSZ, previousHandler);
-    }
-
-private:
-    struct rlimit saved;
-    void (*previousHandler)(int);
 };
 
 QString bashrc()
@@ -178,24 +155,6 @@ private slots:
         QCOMPARE(Sandbox::readFile(bashrc()), startupFile());
         QCOMPARE(previousValueOf(model, "FOO"), QString(100, 'x'));
         QCOMPARE(boxText(answerer), writeFailure(bashrc(), "FOO", error));
-        QCOMPARE(answerer.pending(), 0);
-    }
-
-    void fileSizeLimitBelowTheNewLengthFailsBeforeWriting()
-    {
-        EveModel model;
-        setValue(model, "FOO", QString(500, 'y'));
-        ModalAnswerer answerer({"OK"});
-
-        bool saved;
-        {
-            const FileSizeLimit limit(startupFile().size() + 100);
-            saved = model.save();
-        }
-
-        QVERIFY(!saved);
-        QCOMPARE(Sandbox::readFile(bashrc()), startupFile());
-        QCOMPARE(boxText(answerer), writeFailure(bashrc(), "FOO", EFBIG));
         QCOMPARE(answerer.pending(), 0);
     }
 

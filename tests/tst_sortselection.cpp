@@ -95,20 +95,6 @@ private slots:
         QCOMPARE(answerer.pending(), 0);
     }
 
-    void highlightFollowsARenamedVariable()
-    {
-        Eve window;
-        EveModel &model = *window.eveModel();
-        window.tableView->selectRow(rowOf(model, "BBB"));
-        const QModelIndex name = model.index(rowOf(model, "BBB"), EveModel::VariableColumn);
-
-        model.setData(name, "ZZZ"); // the window re-sorts on the change
-
-        const QModelIndex current = window.tableView->selectionModel()->currentIndex();
-        QCOMPARE(nameAt(model, current.row()), "ZZZ");
-        QCOMPARE(current.row(), model.rowCount() - 1);
-    }
-
 private:
     QScopedPointer<Sandbox> sandbox;
 };

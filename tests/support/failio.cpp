@@ -1,7 +1,8 @@
 // A preload library that makes one kind of system call fail on one file, so
 // tests can see what the program does when a disk fills up or a read goes
 // wrong. Idle unless ORV_FAIL_CALL is set:
-//   ORV_FAIL_CALL   read | write | fsync | ftruncate | fallocate
+//   ORV_FAIL_CALL   read | write | fsync | ftruncate | fallocate (read: pread,
+//                   write: pwrite and write)
 //   ORV_FAIL_PATH   the file, as /proc/self/fd shows it
 //   ORV_FAIL_ERRNO  the error to report; 0 makes a read or write return 0,
 //                   as at the end of a file
@@ -105,21 +106,9 @@ void orv_failio_reset()
     failedCalls = 0;
 }
 
-ssize_t read(int fd, void *buffer, size_t count)
-{
-    static const auto function = real<decltype(&read)>("read");
-    return transfer(function, "read", fd, buffer, count);
-}
-
 ssize_t pread(int fd, void *buffer, size_t count, off_t offset)
 {
     static const auto function = real<decltype(&pread)>("pread");
-    return transfer(function, "read", fd, buffer, count, offset);
-}
-
-ssize_t pread64(int fd, void *buffer, size_t count, off64_t offset)
-{
-    static const auto function = real<decltype(&pread64)>("pread64");
     return transfer(function, "read", fd, buffer, count, offset);
 }
 
@@ -135,21 +124,9 @@ ssize_t pwrite(int fd, const void *buffer, size_t count, off_t offset)
     return transfer(function, "write", fd, buffer, count, offset);
 }
 
-ssize_t pwrite64(int fd, const void *buffer, size_t count, off64_t offset)
-{
-    static const auto function = real<decltype(&pwrite64)>("pwrite64");
-    return transfer(function, "write", fd, buffer, count, offset);
-}
-
 int fsync(int fd)
 {
     static const auto function = real<decltype(&fsync)>("fsync");
-    return other(function, "fsync", fd);
-}
-
-int fdatasync(int fd)
-{
-    static const auto function = real<decltype(&fdatasync)>("fdatasync");
     return other(function, "fsync", fd);
 }
 
@@ -159,21 +136,9 @@ int ftruncate(int fd, off_t length)
     return other(function, "ftruncate", fd, length);
 }
 
-int ftruncate64(int fd, off64_t length)
-{
-    static const auto function = real<decltype(&ftruncate64)>("ftruncate64");
-    return other(function, "ftruncate", fd, length);
-}
-
 int fallocate(int fd, int mode, off_t offset, off_t length)
 {
     static const auto function = real<decltype(&fallocate)>("fallocate");
-    return other(function, "fallocate", fd, mode, offset, length);
-}
-
-int fallocate64(int fd, int mode, off64_t offset, off64_t length)
-{
-    static const auto function = real<decltype(&fallocate64)>("fallocate64");
     return other(function, "fallocate", fd, mode, offset, length);
 }
 }
