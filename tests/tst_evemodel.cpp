@@ -236,15 +236,6 @@ private slots:
         for (int row = 0; row < 40; ++row)
             QCOMPARE(model->index(row, 1).data().toString(), QString::number(row));
     }
-
-    void sortMovesWholeRows()
-    {
-        fillWith({"A", "B"});
-        model->setData(cell("A", 1), "z");
-        model->sort(1, Qt::DescendingOrder);
-        QCOMPARE(namesOf(*model), QStringList({"B", "A"}));
-        QCOMPARE(cellOf(*model, "A", 1), "z");
-    }
 };
 
 ORV_SANDBOX_TEST_MAIN(TestEveModel)

@@ -46,6 +46,7 @@ private slots:
         row("other lines keep their bytes", "# \xe9\r\nexport FOO=0\r\n", "1",
             "# \xe9\nexport FOO=1\n");
         row("the value is trimmed", "", "  x  ", "export FOO=x\n");
+        row("an empty new value counts as unchanged", "x=1", "", "x=1");
         row("a space calls for quotes", "", "a b", "export FOO=\"a b\"\n");
         row("a tab does not", "", "a\tb", "export FOO=a\tb\n");
         row("double quotes get backslashes", "", "\"x y\"", "export FOO=\"\\\"x y\\\"\"\n");
