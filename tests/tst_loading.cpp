@@ -23,11 +23,11 @@ private slots:
         QTest::addRow("an export after a command") << QByteArray("cd; export FOO=\"a b\"") << true;
         QTest::addRow("a line ending in CR LF") << QByteArray("export FOO=bar\r") << true;
         QTest::addRow("exported is not export") << QByteArray("exported FOO=bar") << false;
-        QTest::addRow("nor is reexport") << QByteArray("reexport FOO=bar") << false;
+        QTest::addRow("reexport is not export either") << QByteArray("reexport FOO=bar") << false;
         QTest::addRow("an assignment alone") << QByteArray("FOO=bar") << false;
         QTest::addRow("the name in small letters") << QByteArray("export foo=bar") << false;
         QTest::addRow("a value without word characters") << QByteArray("export FOO=/") << false;
-        QTest::addRow("a second assignment") << QByteArray("export A=1 FOO=2") << false;
+        QTest::addRow("a second assignment on the line") << QByteArray("export A=1 FOO=2") << false;
     }
     void exportLineGivesTheOrigin()
     {
@@ -65,7 +65,7 @@ private slots:
         row("an empty value", "EMPTY=", "EMPTY", "");
         row("spaces and equals signs in the value", "X= a=b ", "X", " a=b ");
         row("a hyphenated name keeps its last part", "A-B=1", "B", "1");
-        row("no name", "=x", "", "");
+        row("an entry without a name is skipped", "=x", "", "");
     }
     void environmentEntriesBecomeRows()
     {

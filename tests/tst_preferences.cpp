@@ -149,10 +149,10 @@ private slots:
         QTest::addColumn<QString>("userKey"); // empty: the user list is not stored
         QTest::addRow("bash stores the user list under bash") << "bash"
                                                               << "bash";
-        QTest::addRow("tcsh stores it under tcsh") << "tcsh"
-                                                   << "tcsh";
-        QTest::addRow("another shell does not store it") << "sh"
-                                                         << "";
+        QTest::addRow("tcsh stores the user list under tcsh") << "tcsh"
+                                                              << "tcsh";
+        QTest::addRow("another shell does not store the user list") << "sh"
+                                                                    << "";
     }
     void okStoresTheListsByShellKind()
     {

@@ -39,16 +39,19 @@ private slots:
             QTest::newRow(name) << QByteArray(before) << QString(value) << QByteArray(after);
         };
         row("a new variable in an empty file", "", "1", "export FOO=1\n");
-        row("a new variable goes first", "x=1", "1", "export FOO=1\nx=1\n");
-        row("the rest of the line goes", "export FOO=0 # old\n", "1", "export FOO=1\n");
-        row("every assignment is rewritten", "FOO=0\nexport FOO=0\n", "1", "FOO=1\nexport FOO=1\n");
-        row("so is a name ending alike", "export MYFOO=0\n", "1", "export MYFOO=1\n");
+        row("a new variable becomes the first line", "x=1", "1", "export FOO=1\nx=1\n");
+        row("an assignment is replaced to the end of its line", "export FOO=0 # old\n", "1",
+            "export FOO=1\n");
+        row("every line holding the assignment is rewritten", "FOO=0\nexport FOO=0\n", "1",
+            "FOO=1\nexport FOO=1\n");
+        row("a longer name ending alike is rewritten too", "export MYFOO=0\n", "1",
+            "export MYFOO=1\n");
         row("other lines keep their bytes", "# \xe9\r\nexport FOO=0\r\n", "1",
             "# \xe9\nexport FOO=1\n");
         row("the value is trimmed", "", "  x  ", "export FOO=x\n");
         row("an empty new value counts as unchanged", "x=1", "", "x=1");
         row("a space calls for quotes", "", "a b", "export FOO=\"a b\"\n");
-        row("a tab does not", "", "a\tb", "export FOO=a\tb\n");
+        row("a tab calls for no quotes", "", "a\tb", "export FOO=a\tb\n");
         row("double quotes get backslashes", "", "\"x y\"", "export FOO=\"\\\"x y\\\"\"\n");
     }
     void writesTheAssignment()
@@ -70,19 +73,22 @@ private slots:
         QTest::addColumn<bool>("inProfile"); // /etc/profile exports the variable
         QTest::addColumn<bool>("profileBlocked");
         QTest::addColumn<QString>("written");
+        const auto row = [](const char *name, const char *login, const char *scope, bool inProfile,
+                            bool profileBlocked, const QString &written) {
+            QTest::newRow(name) << login << scope << inProfile << profileBlocked << written;
+        };
         const QString user = bashrc(), system = Sandbox::system("/etc/bash.bashrc");
-        QTest::addRow("a user's new variable") << "tester"
-                                               << "local" << false << false << user;
-        QTest::addRow("a user's global variable") << "tester"
-                                                  << "global" << false << false << user;
-        QTest::addRow("root's global variable") << "root"
-                                                << "global" << false << false << system;
-        QTest::addRow("an exported variable") << "tester"
-                                              << "local" << true << false << profile();
-        QTest::addRow("root's exported global one") << "root"
-                                                    << "global" << true << false << profile();
-        QTest::addRow("an unopenable exporter") << "tester"
-                                                << "local" << true << true << user;
+        row("a user's new variable goes to the user's file", "tester", "local", false, false, user);
+        row("a user's global variable goes to the user's file", "tester", "global", false, false,
+            user);
+        row("root's global variable goes to the shell's system file", "root", "global", false,
+            false, system);
+        row("an exported variable goes back to its file", "tester", "local", true, false,
+            profile());
+        row("root's exported global variable goes back to its file", "root", "global", true, false,
+            profile());
+        row("a variable whose file cannot be opened goes to the user's file", "tester", "local",
+            true, true, user);
     }
     void choosesTheFile()
     {
@@ -145,9 +151,11 @@ private slots:
         };
         row("the only line becomes a space", "export FOO=1", " \n");
         row("text before export stays", "cd; export FOO=1 # note\n", "cd;  \n");
-        row("text between export and the name goes", "export FOO=1\nexport A=1 FOO=2\n", " \n \n");
-        row("a name ending alike goes", "export FOO=1\nexport MYFOO=2\n", " \n \n");
-        row("an assignment alone stays", "export FOO=1\nFOO=2\n", " \nFOO=2\n");
+        row("text between export and the name is blanked too", "export FOO=1\nexport A=1 FOO=2\n",
+            " \n \n");
+        row("a longer name ending alike is blanked too", "export FOO=1\nexport MYFOO=2\n",
+            " \n \n");
+        row("an assignment without export stays", "export FOO=1\nFOO=2\n", " \nFOO=2\n");
         row("other lines keep their bytes", "# \xe9\nexport FOO=1\n", "# \xe9\n \n");
     }
     void blanksTheExportOfADeletedVariable()
