@@ -1,88 +1,138 @@
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
 
-#include <QApplication>
-#include <QSettings>
-#include <QtTest>
+// "~/" stands for the sandbox home and "/" for the sandbox root; other names
+// stand for themselves.
+static QString place(const QString &path)
+{
+    if (path.startsWith("~/"))
+        return Sandbox::home() + path.mid(1);
+    return path.startsWith('/') ? Sandbox::system(path) : path;
+}
 
-using L = QStringList;
+static QStringList place(QStringList paths)
+{
+    for (QString &path : paths)
+        path = place(path);
+    return paths;
+}
 
-class TestConfigFiles : public QObject
+class TestConfigFiles : public SandboxTest
 {
     Q_OBJECT
 
-    // Space-separated paths: a leading "/" is the sandbox root, "~" the sandbox home.
-    static L place(const QString &paths)
-    {
-        return paths.split(' ', Qt::SkipEmptyParts)
-            .replaceInStrings(QRegExp("^/"), Sandbox::sysroot() + "/")
-            .replaceInStrings("~", Sandbox::home());
-    }
-
 private slots:
-    void chosenFiles_data()
+    void shellAndOpenableFilesDecideTheFiles_data()
     {
-        QTest::addColumn<L>("row"); // tag, environment, blocked paths, kind, local and global file
-        const QList<L> rows{
-            {"bash", "SHELL=/bin/bash", "", "1 ~/.bashrc /etc/bash.bashrc"},
-            {"BASH", "SHELL=/bin/BASH", "", "1 ~/.bashrc /etc/bash.bashrc"},
-            {"tcsh", "SHELL=/bin/tcsh", "", "2 ~/.cshrc /etc/csh.cshrc"},
-            {"csh", "SHELL=/bin/csh", "", "2 ~/.cshrc /etc/csh.cshrc"},
-            {"zsh", "SHELL=/bin/zsh", "", "0 ~/.profile /etc/profile"},
-            {"none", "", "", "0 ~/.profile /etc/profile"},
-            {"first blocked", "SHELL=bash", "~/.bashrc", "1 ~/.bash_profile /etc/bash.bashrc"},
-            {"both", "SHELL=bash", "~/.bashrc ~/.bash_profile", "1 ~/.profile /etc/bash.bashrc"},
-            {"home missing", "HOME=~/x", "", "0 /tmp/orv-admin-env-localfile /etc/profile"},
-            {"global blocked", "SHELL=bash", "/etc/bash.bashrc", "1 ~/.bashrc /etc/profile"},
-            {"etc blocked", "", "/etc/profile", "0 ~/.profile /tmp/orv-admin-env-globalfile"}};
-        for (const L &row : rows)
-            QTest::newRow(qPrintable(row[0])) << row;
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QStringList>("unopenable");
+        QTest::addColumn<int>("kind"); // 0 other, 1 bash, 2 csh
+        QTest::addColumn<QString>("localFile");
+        QTest::addColumn<QString>("globalFile");
+        const auto row = [](const char *name, const char *shell, const QStringList &unopenable,
+                            int kind, const char *local, const char *global) {
+            QTest::newRow(name) << shell << unopenable << kind << local << global;
+        };
+        const char *localScratch = "/tmp/orv-admin-env-localfile";
+        row("bash", "/bin/bash", {}, 1, "~/.bashrc", "/etc/bash.bashrc");
+        row("bash in capitals", "/bin/BASH", {}, 1, "~/.bashrc", "/etc/bash.bashrc");
+        row("tcsh", "/bin/tcsh", {}, 2, "~/.cshrc", "/etc/csh.cshrc");
+        row("csh", "/bin/csh", {}, 2, "~/.cshrc", "/etc/csh.cshrc");
+        row("tcsh in capitals", "/bin/TCSH", {}, 2, "~/.cshrc", "/etc/csh.cshrc");
+        row("zsh is another shell", "/bin/zsh", {}, 0, "~/.profile", "/etc/profile");
+        row("no shell at all", "", {}, 0, "~/.profile", "/etc/profile");
+        row("bash takes ~/.bash_profile next", "/bin/bash", {"~/.bashrc"}, 1, "~/.bash_profile",
+            "/etc/bash.bashrc");
+        row("bash takes ~/.profile last", "/bin/bash", {"~/.bashrc", "~/.bash_profile"}, 1,
+            "~/.profile", "/etc/bash.bashrc");
+        row("csh takes ~/.tcshrc next", "/bin/csh", {"~/.cshrc"}, 2, "~/.tcshrc", "/etc/csh.cshrc");
+        row("no user file at all", "/bin/csh", {"~/.cshrc", "~/.tcshrc", "~/.profile"}, 2,
+            localScratch, "/etc/csh.cshrc");
+        row("no shell's system file", "/bin/bash", {"/etc/bash.bashrc"}, 1, "~/.bashrc",
+            "/etc/profile");
+        row("no system file at all", "/bin/bash", {"/etc/bash.bashrc", "/etc/profile"}, 1,
+            "~/.bashrc", "/tmp/orv-admin-env-globalfile");
     }
-    void chosenFiles()
+    void shellAndOpenableFilesDecideTheFiles()
     {
-        Sandbox sandbox;
-        QFETCH(L, row);
-        for (const QString &path : place(row[2]))
-            Sandbox::blockPath(path);
-        Sandbox::setEnvironment(place("HOME=~ LOGNAME=tester " + row[1]));
-        ModalAnswerer answerer({"OK", "OK"}); // a spare: only a blocked /etc/profile brings a box
+        QFETCH(QString, shell);
+        QFETCH(QStringList, unopenable);
+        QFETCH(int, kind);
+        QFETCH(QString, localFile);
+        QFETCH(QString, globalFile);
+        for (const QString &path : unopenable)
+            Sandbox::blockPath(place(path));
+        QStringList environment{"HOME=" + Sandbox::home(), "LOGNAME=tester"};
+        if (!shell.isEmpty())
+            environment << "SHELL=" + shell;
+        Sandbox::setEnvironment(environment);
+        if (unopenable.contains("/etc/profile")) // scanned as well, so reported
+            answerer->addAnswer("OK");
         EveModel model;
-        QCOMPARE(answerer.pending(), row[2].contains("/etc/profile") ? 1 : 2);
-        QCOMPARE(model.bashShell, model.ShellKind == EveModel::Bash);
-        // The chosen user file now exists, empty; the scratch files are never made.
-        QCOMPARE(L({QString::number(model.ShellKind), model.localFile, model.globalFile,
-                    Sandbox::readFile(model.localFile)}),
-                 place(row[3]) << (row[0] == "home missing" ? "<unreadable>" : ""));
-        QVERIFY(!QFileInfo::exists(Sandbox::system("/tmp/orv-admin-env-globalfile")));
+        QCOMPARE(model.ShellKind, kind);
+        QCOMPARE(model.bashShell, kind == 1);
+        QCOMPARE(model.localFile, place(localFile));
+        QCOMPARE(model.globalFile, place(globalFile));
+        QVERIFY2(QFileInfo(model.localFile).isFile() || localFile.startsWith("/tmp"),
+                 "the chosen user file is created");
+        QVERIFY2(!QFileInfo::exists(place("/tmp/orv-admin-env-globalfile")),
+                 "a scratch file is named at start, not made");
     }
 
-    void fileLists_data()
+    void rootIsRecognisedByTheLoginName_data()
     {
-        // LOGNAME and shell, stored system | bash | tcsh lists, then root and system | user files
-        QTest::addColumn<L>("row");
-        const QList<L> rows{
-            {"tester bash", "/a | /b | /a", "0 /etc/profile /a | ~/.bashrc /b"},
-            {"root bash", "/a | /b", "1 /etc/profile /etc/bash.bashrc /a | ~/.bashrc /b"},
-            {"Root bash", "/etc/profile | ~/.bashrc",
-             "1 /etc/bash.bashrc /etc/profile | ~/.bashrc"},
-            {"ROOT bash", "/etc/bash.bashrc |", "1 /etc/profile /etc/bash.bashrc | ~/.bashrc"},
-            {"rooter tcsh", "| /b | /a", "0 /etc/profile | ~/.cshrc /a"},
-            {"tester sh", "| /b | /a", "0 /etc/profile | ~/.profile"}};
-        for (const L &row : rows)
-            QTest::newRow(qPrintable(row[0])) << row;
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<bool>("root");
+        QTest::addRow("root") << "root" << true;
+        QTest::addRow("Root") << "Root" << true;
+        QTest::addRow("a name beginning with root") << "rooter" << false;
     }
-    void fileLists()
+    void rootIsRecognisedByTheLoginName()
     {
-        Sandbox sandbox;
-        QFETCH(L, row);
-        for (int i = 0; i < 3; ++i)
-            QSettings().setValue("configFiles/" + L{"system", "bash", "tcsh"}[i],
-                                 place(row[1].section('|', i, i)));
-        Sandbox::setEnvironment(place("HOME=~ LOGNAME=" + row[0].replace(" ", " SHELL=/bin/")));
+        QFETCH(QString, login);
+        Sandbox::setUserEnvironment({"LOGNAME=" + login});
+        QTEST(EveModel().rootSession, "root");
+    }
+
+    void fileListsComeFromTheSettings_data()
+    {
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QStringList>("storedSystemFiles");
+        QTest::addColumn<QStringList>("systemFiles");
+        QTest::addColumn<QStringList>("userFiles");
+        const auto row = [](const char *name, const char *login, const char *shell,
+                            const QStringList &stored, const QStringList &system,
+                            const QStringList &user) {
+            QTest::newRow(name) << login << shell << stored << system << user;
+        };
+        const QStringList bashFiles{"b.sh", "~/.bashrc"};
+        row("a user scans /etc/profile first", "tester", "bash", {"a.sh"}, {"/etc/profile", "a.sh"},
+            bashFiles);
+        row("root scans the shell's system file next", "root", "bash", {"a.sh"},
+            {"/etc/profile", "/etc/bash.bashrc", "a.sh"}, bashFiles);
+        row("files listed already are not added again", "root", "bash",
+            {"/etc/bash.bashrc", "/etc/profile"}, {"/etc/bash.bashrc", "/etc/profile"}, bashFiles);
+        row("csh reads its own list, the user file first", "tester", "tcsh", {"a.sh"},
+            {"/etc/profile", "a.sh"}, {"~/.cshrc", "c.sh"});
+        row("another shell reads no user list", "tester", "sh", {"a.sh"}, {"/etc/profile", "a.sh"},
+            {"~/.profile"});
+    }
+    void fileListsComeFromTheSettings()
+    {
+        QFETCH(QString, login);
+        QFETCH(QString, shell);
+        QFETCH(QStringList, storedSystemFiles);
+        QFETCH(QStringList, systemFiles);
+        QFETCH(QStringList, userFiles);
+        QSettings settings;
+        settings.setValue("configFiles/system", place(storedSystemFiles));
+        settings.setValue("configFiles/bash", place(QStringList{"b.sh", "~/.bashrc"}));
+        settings.setValue("configFiles/tcsh", QStringList{"c.sh"});
+        Sandbox::setUserEnvironment({"LOGNAME=" + login, "SHELL=/bin/" + shell});
         EveModel model;
-        const L files = model.systemFiles + L{"|"} + model.userFiles;
-        QCOMPARE(L{QString::number(model.rootSession)} + files, place(row[2]));
+        QCOMPARE(model.systemFiles, place(systemFiles));
+        QCOMPARE(model.userFiles, place(userFiles));
     }
 };
 

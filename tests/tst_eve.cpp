@@ -1,168 +1,357 @@
 #include "eve.h"
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 #include "ueditor.h"
 
-#include <QtTest>
+#include <QGroupBox>
 
-class TestEve : public QObject
+static QString bashrc()
+{
+    return Sandbox::home() + "/.bashrc";
+}
+
+// The session of every test: EXTRA and ZED, ordinary variables, and HOME,
+// LOGNAME, PATH and SHELL, critical ones; /etc/profile exports SHELL. The
+// table starts sorted from A to Z, so EXTRA is the first row.
+class TestEve : public SandboxTest
 {
     Q_OBJECT
 
-    static QString bashrc() { return Sandbox::home() + "/.bashrc"; }
-    static QModelIndex at(const Eve &w, const QString &name, int column = 0)
+    QScopedPointer<Eve> window;
+
+    EveModel *model() const { return window->eveModel(); }
+    void select(const QString &name) { window->tableView->selectRow(rowOf(*model(), name)); }
+    QList<int> selectedRows() const
     {
-        const EveModel *m = w.eveModel();
-        return m->match(m->index(0, 0), Qt::DisplayRole, name).value(0).siblingAtColumn(column);
+        QList<int> rows;
+        for (const QModelIndex &index : window->tableView->selectionModel()->selectedRows())
+            rows << index.row();
+        return rows;
     }
-    // Enabled states of Save, Reset, Delete and Edit.
-    static QString actions(const Eve &w)
+    // An edit in the table that asks nothing, as EXTRA is not critical.
+    void changeExtra()
     {
-        QString s;
-        for (QAction *a : {w.actionSave, w.actionReset, w.actionDelete, w.actionEdit})
-            s += a->isEnabled() ? '1' : '0';
-        return s;
+        model()->setData(model()->index(rowOf(*model(), "EXTRA"), EveModel::ValueColumn), "2");
     }
-    // The title, size, columns' widths (0: hidden) and action states.
-    static QString layout(const Eve &w)
+    // Triggers the action and gives the modal windows it opens these answers in
+    // turn; returns "title: text" of every window that came.
+    QStringList run(QAction *action, const QStringList &answers = {})
     {
-        QString s = QString("%1 %2 %3").arg(w.windowTitle()).arg(w.width()).arg(w.height());
-        for (int c = 0; c < EveModel::ColumnCount; ++c)
-            s += ' ' + QString::number(w.tableView->columnWidth(c));
-        return s + ' ' + actions(w);
+        for (const QString &answer : answers)
+            answerer->addAnswer(answer);
+        action->trigger();
+        QStringList seen;
+        for (const ModalAnswerer::Seen &window : qAsConst(answerer->seen))
+            seen << window.title + ": " + window.text;
+        answerer->seen.clear();
+        return seen;
+    }
+    QString status() const { return window->statusbar->currentMessage(); }
+    // How long the status bar shows its message: the interval of its timer.
+    int statusTimeout() const
+    {
+        const QTimer *timer = window->statusbar->findChild<QTimer *>();
+        return timer && timer->isActive() ? timer->interval() : 0;
     }
 
 private slots:
-    void startUp()
+    void init()
     {
-        Sandbox sandbox;
-        Eve w;
-        QCOMPARE(layout(w), "Orv environment variable editor 935 650 230 200 90 870 0 0 0 0000");
-        QVERIFY(w.actionAdd->isEnabled() && w.actionPreferences->isEnabled() &&
-                w.actionQuit->isEnabled());
-        QCOMPARE(w.tableView->actions(),
-                 (QList<QAction *>{w.actionAdd, w.actionDelete, w.actionEdit}));
-        QStringList slotNames;
-        for (int i = w.metaObject()->methodOffset(); i < w.metaObject()->methodCount(); ++i)
-            slotNames << w.metaObject()->method(i).methodSignature();
-        QCOMPARE(slotNames.join(' '),
-                 "checkModelIndex(QModelIndex) setModifiedFlagTrue(QModelIndex,QModelIndex) "
-                 "setModifiedFlag(bool) setModifiedFlag() disableModifications() "
-                 "enableModifications() insertRow() removeRow() eventFilter(QObject*,QEvent*) "
-                 "help() rowsInsertedInModel(QModelIndex,int,int) showPreferencesDialog() save() "
-                 "reset() showEditDialog() showNewDialog()");
-        QCOMPARE(w.qt_metacast("Ui_MainWindow"), static_cast<Ui_MainWindow *>(&w));
-        for (const QString e : {"cVariableWidth=0", "cValueWidth=-5", "cDescriptionWidth=120"})
-            QSettings().setValue("tableView/" + e.section('=', 0, 0), e.section('=', 1).toInt());
-        QCOMPARE(layout(Eve()).section(' ', 4), "935 650 230 200 90 120 0 0 0 0000"); // no title
+        SandboxTest::init();
+        Sandbox::setUserEnvironment({"EXTRA=1", "ZED=1"});
+        Sandbox::writeFile(Sandbox::system("/etc/profile"), "export SHELL=/bin/bash\n");
+        window.reset(new Eve);
+        window->show();
+    }
+    void cleanup()
+    {
+        window.reset();
+        SandboxTest::cleanup();
     }
 
-    // Steps: modified (EXTRA=2), blocked (~/.bashrc), rowsN (N rows left), @NAME (a click), ~KEY
-    // (to the key filter) or a command (action or shortcut) with answers after ':' (a button,
-    // "accept", NAME=VALUE to type): the boxes, "title|text|buttons" (preferences: the user group
-    // title as text), and "actions rows EXTRA [stored settings]|status message|~/.bashrc".
-    void commands_data()
+    void firstStartShowsTheDefaults()
     {
-        QTest::addColumn<QString>("expected");
-        const QString saved = "Changes were saved|Changes were saved and will be applied after "
-                              "restarting a session!|OK\n";
-        const QString reset = "Attention!|Do you really want to reset?|Yes,No\n";
-        const QString ask = "Attention!|Do you really want to delete a variable?|Yes,No\n";
-        const QString unsaved =
-            "Changes are not saved!|Do you want to save your changes?\n (Changes "
-            "will be applied after restarting a session)|Cancel,Yes,No\n";
-        const QString prefs = "Preferences|User Config Files (bash)|OK,Cancel,Apply\n";
-        const QString apply =
-            "Apply changes now?|Do you want to save data and apply changes now?|OK,Cancel\n";
-        QTest::newRow("modified blocked Save:OK:OK")
-            << "Warning!|Couldn't open file " + bashrc() +
-                   " for saving variable EXTRA|OK\nAttention!|Unable to save changes - file access "
-                   "denied!|OK\n1100 5 2||<unreadable>";
-        QTest::newRow("modified Reset:No") << reset + "1100 5 2||";
-        QTest::newRow("rows1 @SHELL Delete") << "0001 1 ||";
-        QTest::newRow("@SHELL Delete:Yes")
-            << "Attention!|Do you really want to delete SYSTEM variable located at file \n" +
-                   Sandbox::system("/etc/profile") + " ?|Yes,No\n1111 4 1||";
-        QTest::newRow("@LOGNAME Delete:Yes") << ask + "1111 4 1||";
-        QTest::newRow("modified Add:Cancel") << "Create new variable||OK,Cancel\n1100 5 2||";
-        QTest::newRow("@EXTRA Edit:Cancel") << "Edit variable||OK,Cancel\n0011 5 1||";
-        for (auto tag : {"rows0 ~Down", "~A"})
-            QTest::newRow(tag) << "0\n0000";
-        for (auto tag : {"rows1 ~Down", "~Tab", "~Backtab"})
-            QTest::newRow(tag) << "1\n0000";
-        for (auto key : {"Up", "PgUp", "Home", "Left", "Right", "Space", "Down", "PgDown", "End"})
-            QTest::addRow("~%s", key) << "0\n0011";
-        QTest::newRow("Preferences:accept") << prefs + "0000 5 1|New settings have been applied!|";
-        QTest::newRow("modified Preferences:accept:OK:OK")
-            << prefs + apply + saved + "0000 5 1|New settings have been applied!|export EXTRA=2\n";
-        QTest::newRow("modified Preferences:accept:Cancel") << prefs + apply + "1100 5 2||";
-        QTest::newRow("Ins:FOO=bar Ctrl+S:OK @EXTRA Edit:=baz @EXTRA Del:Yes Reset:Yes "
-                      "modified Quit:Cancel Quit:No Quit:Yes")
-            << "Create new variable||OK,Cancel\n1111 6 1||\n" + saved +
-                   "0011 6 1|Changes were saved successfully!|export FOO=bar\n\n"
-                   "Edit variable||OK,Cancel\n1111 6 baz1|Changes were saved "
-                   "successfully!|export FOO=bar\n\n" +
-                   ask + "1111 5 |Changes were saved successfully!|export FOO=bar\n\n" + reset +
-                   "0011 5 1|All changes were reseted!|export FOO=bar\n\n" + unsaved +
-                   "1111 5 2|All changes were reseted!|export FOO=bar\n\n" + unsaved +
-                   "1111 5 2 stored|All changes were reseted!|export FOO=bar\n\n" + unsaved +
-                   "1111 5 2 stored|All changes were reseted!|export EXTRA=2\nexport "
-                   "FOO=bar\n";
+        QCOMPARE(window->size(), QSize(935, 650));
+        QList<int> widths;
+        for (int column = 0; column < EveModel::ColumnCount; ++column)
+            widths << window->tableView->columnWidth(column);
+        QCOMPARE(widths, QList<int>({230, 200, 90, 870, 0, 0, 0}));
+        QCOMPARE(namesOf(*model()),
+                 QStringList({"EXTRA", "HOME", "LOGNAME", "PATH", "SHELL", "ZED"}));
+        QCOMPARE(window->tableView->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+        for (QAction *action :
+             {window->actionSave, window->actionReset, window->actionDelete, window->actionEdit})
+            QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
+        QVERIFY(window->actionAdd->isEnabled() && window->actionPreferences->isEnabled());
+        QCOMPARE(window->tableView->actions(),
+                 QList<QAction *>({window->actionAdd, window->actionDelete, window->actionEdit}));
     }
-    void commands()
+
+    void storedWidthBelowOneMeansTheDefault()
     {
-        Sandbox sandbox;
-        Sandbox::setUserEnvironment({"EXTRA=1"});
-        Sandbox::writeFile(Sandbox::system("/etc/profile"), "export SHELL=/bin/bash\n");
-        Sandbox::writeFile(bashrc(), "");
-        Eve w;
-        w.show(); // and destroyed while shown
-        ModalAnswerer answerer;
-        QStringList trace;
-        for (const QString &step : QString(QTest::currentDataTag()).split(' ')) {
-            const QString command = step.section(':', 0, 0);
-            for (const QString &text : step.split(':').mid(1))
-                answerer.addAction([&answerer, text](QWidget *dialog) {
-                    if (auto *e = qobject_cast<uEditor *>(dialog); e && text.contains('=')) {
-                        QTest::keyClicks(e->variableEdit, text.section('=', 0, 0));
-                        QTest::keyClicks(e->valueEdit, text.section('=', 1));
-                    }
-                    if (QWidget *group = dialog->findChild<QWidget *>("groupBox_2")) // preferences
-                        answerer.seen.last().text = group->property("title").toString();
-                    if (!ModalAnswerer::clickButton(dialog, text.contains('=') ? "OK" : text))
-                        static_cast<QDialog *>(dialog)->done(text == "accept");
-                });
-            if (command == "modified") // EXTRA is not critical: nothing is asked
-                w.eveModel()->setData(at(w, "EXTRA", 1), "2");
-            else if (command == "blocked")
-                Sandbox::blockPath(bashrc());
-            while (command.startsWith("rows") && w.eveModel()->rowCount() > command.mid(4).toInt())
-                w.eveModel()->removeRows(0, 1);
-            const QRect row = w.tableView->visualRect(at(w, command.mid(1)));
-            if (command[0] == '@')
-                QTest::mouseClick(w.tableView->viewport(), Qt::LeftButton, {}, row.center());
-            QKeyEvent key(QEvent::KeyPress, QKeySequence(command.mid(1))[0], Qt::NoModifier);
-            if (command[0] == '~') // straight to the filter: swallowed, then the action states
-                trace << QString::number(static_cast<QObject &>(w).eventFilter(w.tableView, &key))
-                      << actions(w);
-            if (!command[0].isUpper())
-                continue;
-            QApplication::setActiveWindow(&w); // offscreen nothing does after a dialog
-            if (QAction *action = w.findChild<QAction *>("action" + command))
-                action->trigger();
-            else
-                QTest::keySequence(w.tableView, QKeySequence(command));
-            for (const ModalAnswerer::Seen &s : answerer.seen)
-                trace << s.title + '|' + s.text + '|' + s.buttons.join(',');
-            answerer.seen.clear();
-            QString state = QString("%1 %2 ").arg(actions(w)).arg(w.eveModel()->rowCount());
-            state += at(w, "EXTRA", 1).data().toString();
-            state += QSettings().contains("MainWindow/size") ? " stored|" : "|";
-            trace << state + w.statusbar->currentMessage() + '|' + Sandbox::readFile(bashrc());
-        }
-        QFETCH(QString, expected); // compared by lines, to show the first difference
-        QCOMPARE(trace.join('\n').split('\n'), expected.split('\n'));
+        QSettings().setValue("tableView/cVariableWidth", 0);
+        QSettings().setValue("tableView/cValueWidth", -5);
+        QSettings().setValue("tableView/cOriginWidth", 120);
+        Eve next;
+        QCOMPARE(next.tableView->columnWidth(0), 230);
+        QCOMPARE(next.tableView->columnWidth(1), 200);
+        QCOMPARE(next.tableView->columnWidth(2), 120);
+    }
+
+    void nextStartRestoresSizeStateAndWidths()
+    {
+        window->resize(700, 500);
+        window->toolBar->hide();
+        window->tableView->setColumnWidth(3, 300);
+        QVERIFY(window->close());
+        Eve next;
+        QCOMPARE(next.size(), QSize(700, 500));
+        QVERIFY2(next.toolBar->isHidden(), "the tool bar was hidden at the last close");
+        QCOMPARE(next.tableView->columnWidth(3), 300);
+    }
+
+    void closingWithUnsavedChangesAsks_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::addColumn<QByteArray>("file");
+        QTest::addRow("Yes saves and closes") << "Yes" << true << QByteArray("export EXTRA=2\n");
+        QTest::addRow("No closes without saving") << "No" << true << QByteArray();
+        QTest::addRow("Cancel keeps the window open") << "Cancel" << false << QByteArray();
+    }
+    void closingWithUnsavedChangesAsks()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closed);
+        changeExtra();
+        answerer->addAnswer(answer);
+        QCOMPARE(window->close(), closed);
+        QCOMPARE(answerer->seen.value(0).text, "Do you want to save your changes?\n (Changes will "
+                                               "be applied after restarting a session)");
+        QTEST(Sandbox::readFile(bashrc()), "file");
+        QCOMPARE(QSettings().contains("MainWindow/state"), closed);
+    }
+
+    void keyFilterActsBeforeTheViewMoves_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("currentRow");
+        QTest::addColumn<bool>("swallowed");
+        QTest::addColumn<int>("selectedRow"); // -1: none
+        QTest::addColumn<bool>("editActionsOn");
+        const int up = Qt::Key_Up, tab = Qt::Key_Tab, backtab = Qt::Key_Backtab, a = Qt::Key_A;
+        QTest::addRow("Up on the second row selects the first")
+            << 6 << up << 1 << false << 0 << true;
+        QTest::addRow("Up on the first row selects the first")
+            << 6 << up << 0 << false << 0 << true;
+        QTest::addRow("Up further down selects the current row")
+            << 6 << up << 3 << false << 3 << true;
+        QTest::addRow("Tab is swallowed") << 6 << tab << 3 << true << -1 << false;
+        QTest::addRow("Backtab is swallowed") << 6 << backtab << 3 << true << -1 << false;
+        QTest::addRow("a letter passes untouched") << 6 << a << 3 << false << -1 << false;
+        QTest::addRow("one row swallows every key") << 1 << up << 0 << true << -1 << false;
+        QTest::addRow("no rows pass every key") << 0 << up << -1 << false << -1 << false;
+        for (const Qt::Key key :
+             {Qt::Key_PageUp, Qt::Key_Home, Qt::Key_Left, Qt::Key_Right, Qt::Key_Space})
+            QTest::addRow("%s selects the current row", qPrintable(QKeySequence(key).toString()))
+                << 6 << int(key) << 3 << false << 3 << true;
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End})
+            QTest::addRow("%s only enables editing", qPrintable(QKeySequence(key).toString()))
+                << 6 << int(key) << 3 << false << -1 << true;
+    }
+    void keyFilterActsBeforeTheViewMoves()
+    {
+        QFETCH(int, rows);
+        QFETCH(int, key);
+        QFETCH(int, currentRow);
+        QFETCH(int, selectedRow);
+        QFETCH(bool, editActionsOn);
+        while (model()->rowCount() > rows)
+            model()->removeRows(0, 1);
+        window->tableView->selectionModel()->setCurrentIndex(model()->index(currentRow, 0),
+                                                             QItemSelectionModel::NoUpdate);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QObject *filter = window.data();
+        QTEST(filter->eventFilter(window->tableView, &press), "swallowed");
+        QCOMPARE(selectedRows(), selectedRow < 0 ? QList<int>() : QList<int>({selectedRow}));
+        QCOMPARE(window->actionDelete->isEnabled(), editActionsOn);
+        QCOMPARE(window->actionEdit->isEnabled(), editActionsOn);
+    }
+
+    void clicksAndKeysInTheTableEnableEditing()
+    {
+        QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+        const QModelIndex path = model()->index(rowOf(*model(), "PATH"), 0);
+        QTest::mouseClick(window->tableView->viewport(), Qt::LeftButton, {},
+                          window->tableView->visualRect(path).center());
+        QVERIFY(window->actionDelete->isEnabled() && window->actionEdit->isEnabled());
+        window->actionEdit->setEnabled(false);
+        QTest::keyClick(window->tableView, Qt::Key_Down);
+        QVERIFY(window->actionEdit->isEnabled());
+    }
+
+    void saveReportsSuccess()
+    {
+        changeExtra();
+        QVERIFY(window->actionSave->isEnabled() && window->actionReset->isEnabled());
+        QCOMPARE(run(window->actionSave, {"OK"}),
+                 QStringList({"Changes were saved: Changes were saved and will be applied after "
+                              "restarting a session!"}));
+        QCOMPARE(status(), "Changes were saved successfully!");
+        QCOMPARE(statusTimeout(), 5000);
+        QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled());
+        QCOMPARE(Sandbox::readFile(bashrc()), "export EXTRA=2\n");
+    }
+
+    void failedSaveKeepsTheChanges()
+    {
+        changeExtra();
+        Sandbox::blockPath(bashrc());
+        QCOMPARE(run(window->actionSave, {"OK", "OK"}).value(1),
+                 "Attention!: Unable to save changes - file access denied!");
+        QCOMPARE(status(), "");
+        QVERIFY(window->isModified() && window->actionSave->isEnabled());
+    }
+
+    void resetAsksFirst()
+    {
+        changeExtra();
+        const QStringList question{"Attention!: Do you really want to reset?"};
+        QCOMPARE(run(window->actionReset, {"No"}), question);
+        QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "2");
+        QVERIFY(window->isModified());
+        QCOMPARE(run(window->actionReset, {"Yes"}), question);
+        QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1");
+        QVERIFY(!window->isModified());
+        QCOMPARE(status(), "All changes were reseted!");
+        QCOMPARE(statusTimeout(), 5000);
+        QVERIFY(window->tableView->isEnabled());
+    }
+
+    void deleteAsksAccordingToTheRow_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("question");
+        const QString plain = "Do you really want to delete a variable?";
+        QTest::addRow("a critical variable from a file names the file")
+            << "SHELL"
+            << "Do you really want to delete SYSTEM variable located at file \n" +
+                   Sandbox::system("/etc/profile") + " ?";
+        QTest::addRow("a critical variable from the environment") << "LOGNAME" << plain;
+        QTest::addRow("an ordinary variable") << "ZED" << plain;
+    }
+    void deleteAsksAccordingToTheRow()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, question);
+        select(name);
+        QCOMPARE(run(window->actionDelete, {"No"}), QStringList({"Attention!: " + question}));
+        QVERIFY(rowOf(*model(), name) >= 0);
+        QVERIFY(!window->isModified());
+    }
+
+    void confirmedDeleteRemovesTheRowAndSelectsTheFirst()
+    {
+        select("PATH");
+        QCOMPARE(run(window->actionDelete, {"Yes"}).size(), 1);
+        QCOMPARE(rowOf(*model(), "PATH"), -1);
+        QVERIFY(window->isModified());
+        QCOMPARE(selectedRows(), QList<int>({0}));
+        QVERIFY(window->actionDelete->isEnabled() && window->actionEdit->isEnabled());
+    }
+
+    void lastRowCannotBeDeleted()
+    {
+        window->actionEdit->setEnabled(true);
+        while (model()->rowCount() > 1)
+            model()->removeRows(0, 1);
+        QVERIFY2(!window->actionEdit->isEnabled(), "the model's disableDel() turns editing off");
+        select("ZED");
+        window->actionDelete->setEnabled(true);
+        QCOMPARE(run(window->actionDelete), QStringList());
+        QCOMPARE(model()->rowCount(), 1);
+        QVERIFY(!window->actionDelete->isEnabled());
+    }
+
+    void insertKeyAddsTheTypedVariable()
+    {
+        answerer->addAction([](QWidget *dialog) {
+            auto *editor = qobject_cast<uEditor *>(dialog);
+            QTest::keyClicks(editor->variableEdit, "FOO");
+            QTest::keyClicks(editor->valueEdit, "bar");
+            ModalAnswerer::clickButton(editor, "OK");
+        });
+        QApplication::setActiveWindow(window.data()); // shortcuts go to the active window
+        QTest::keySequence(window->tableView, QKeySequence("Ins"));
+        QCOMPARE(answerer->seen.value(0).title, "Create new variable");
+        QCOMPARE(recordOf(*model(), "FOO"),
+                 QStringList({"FOO", "bar", "System", "", "local", "", "bar"}));
+        QVERIFY(window->isModified());
+        QVERIFY(window->actionDelete->isEnabled());
+    }
+
+    void editUpdatesTheRowAndSelectsTheFirst()
+    {
+        select("ZED");
+        answerer->addAction([](QWidget *dialog) {
+            auto *editor = qobject_cast<uEditor *>(dialog);
+            editor->valueEdit->selectAll();
+            QTest::keyClicks(editor->valueEdit, "2");
+            editor->vipCheck->click();
+            editor->checkBox->setChecked(true);
+            ModalAnswerer::clickButton(editor, "OK");
+        });
+        QCOMPARE(run(window->actionEdit), QStringList({"Edit variable: "}));
+        QCOMPARE(recordOf(*model(), "ZED"),
+                 QStringList({"ZED", "2", "System", "", "global", "true", "1"}));
+        QCOMPARE(selectedRows(), QList<int>({0}));
+        QVERIFY(window->isModified());
+        QVERIFY(window->actionEdit->isEnabled());
+    }
+
+    void cancelledEditorsChangeNothing()
+    {
+        select("ZED");
+        QCOMPARE(run(window->actionAdd, {"Cancel"}), QStringList({"Create new variable: "}));
+        QCOMPARE(run(window->actionEdit, {"Cancel"}), QStringList({"Edit variable: "}));
+        QCOMPARE(model()->rowCount(), 6);
+        QVERIFY(!window->isModified());
+    }
+
+    void acceptedPreferencesReloadTheTable()
+    {
+        QString userFilesTitle;
+        answerer->addAction([&userFilesTitle](QWidget *dialog) {
+            userFilesTitle = dialog->findChild<QGroupBox *>("groupBox_2")->title();
+            static_cast<QDialog *>(dialog)->accept();
+        });
+        model()->insertRows(0, 1, {"GONE", "1"});
+        run(window->actionPreferences);
+        QCOMPARE(userFilesTitle, "User Config Files (bash)");
+        QCOMPARE(rowOf(*model(), "GONE"), -1);
+        QCOMPARE(status(), "New settings have been applied!");
+        QCOMPARE(statusTimeout(), 2000);
+    }
+
+    void preferencesWithUnsavedChangesOfferToSave()
+    {
+        const auto accept = [](QWidget *dialog) {
+            static_cast<QDialog *>(dialog)->accept();
+        };
+        const QString offer = "Apply changes now?: Do you want to save data and apply changes now?";
+        changeExtra();
+        answerer->addAction(accept);
+        QCOMPARE(run(window->actionPreferences, {"Cancel"}).value(1), offer);
+        QVERIFY2(window->isModified(), "Cancel leaves the changes pending");
+        answerer->addAction(accept);
+        QCOMPARE(run(window->actionPreferences, {"OK", "OK"}).mid(1, 2),
+                 QStringList({offer, "Changes were saved: Changes were saved and will be applied "
+                                     "after restarting a session!"}));
+        QCOMPARE(Sandbox::readFile(bashrc()), "export EXTRA=2\n");
+        QVERIFY(!window->isModified());
+        QCOMPARE(status(), "New settings have been applied!");
     }
 };
 

@@ -1,138 +1,240 @@
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 
-#include <QApplication>
-#include <QRandomGenerator>
-#include <QtTest>
-
-using L = QStringList;
-
-// Rows as "NAME|Value|Origin|Description|Scope|Vip|Previous" (edit texts), the home as "~".
-static L rowsOf(const EveModel &m)
-{
-    QString out;
-    for (int i = 0; i < m.rowCount() * EveModel::ColumnCount; ++i)
-        out += m.index(i / 7, i % 7).data(Qt::EditRole).toString() + (i % 7 < 6 ? "|" : "\n");
-    return out.replace(Sandbox::home(), "~").split('\n', Qt::SkipEmptyParts);
-}
-
-// Replaces the rows by new ones, "NAME|VALUE|DESCRIPTION", as the "new variable" command makes.
-static void fill(EveModel &m, const L &rows)
-{
-    while (m.rowCount() > 0)
-        m.removeRows(0, 1);
-    for (const QString &fields : rows)
-        m.insertRows(m.rowCount(), 1, fields.split('|'));
-}
-
-class TestEveModel : public QObject
+// The session of every test: HOME, LOGNAME, SHELL and PATH, which the
+// catalogue marks critical, and EDITOR, which it does not.
+class TestEveModel : public SandboxTest
 {
     Q_OBJECT
 
-private slots:
-    void texts()
+    QScopedPointer<EveModel> model;
+
+    QModelIndex cell(const QString &name, int column) const
     {
-        Sandbox sandbox;
-        EveModel m;
-        const QString x = QString(80, 'x');
-        fill(m, {"EDITOR|", "X|" + x.left(50), "X|" + x.left(51), "X|" + x,
-                 "X|" + x.left(19) + ":" + x.left(20) + ":" + x.left(19), "X|a%1b"});
-        QVERIFY(m.setData(m.index(5, 2), QString())); // only an edit empties Origin
-        QString texts; // headers ('*': editable), Value's text, status and tool tip per row
-        for (int c = 0; c < m.columnCount(); ++c)
-            texts += (c ? " " : "") + m.headerData(c, Qt::Horizontal).toString() +
-                     (m.flags(m.index(0, c)) & Qt::ItemIsEditable ? "*" : "");
-        for (int r = 0; r < 6; ++r)
-            for (int role : {Qt::DisplayRole, Qt::StatusTipRole, Qt::ToolTipRole})
-                texts += (role ? " " : "\n") + m.index(r, 1).data(role).toString();
-        for (const QString &c : L{"PATH|", "Path|", "LANG|", "PS1|x", "HOME|x", "DESKTOP_SESSION|",
-                                  "EDITOR|"}) { // the catalogue, with Vip before
-            L row{c.section('|', 0, 0), "v", "System", "old", "local", c.section('|', 1), "p"};
-            m.describeKnownVariable(row);
-            row[3].replace(QRegExp("^(.{40}).{21,}"), "\\1..."); // long ones by their start
-            texts += "\n" + row.join('|');
-        }
-        for (int n : {80, 51, 50, 20, 19}) // long values written as x<length>
-            texts.replace(x.left(n), QString("x%1").arg(n));
-        texts.replace("<tr><td><b>", "[").replace("</b>", "").replace("</td></tr>", "]");
-        QCOMPARE(texts.split('\n'), QString(R"(Variable* Value* Origin Description* 5 6 7
- EDITOR= <table>[Variable: EDITOR][Origin: System]</table>
-x50 X=x50 <table>[Variable: X][Value: x50][Origin: System]</table>
-x51 X=x51 <table>[Variable: X][Value: x51...][Origin: System]</table>
-x80 X=x80 <table>[Variable: X][Value: x51...][Origin: System]</table>
-x19:x20:x19 X=x19:x20:x19 <table>[Variable: X][Value: x19 :x20 :x19][Origin: System]</table>
-a%1b X=a%1b <table>[Variable: X][Value: a%1b]</table>
-PATH|v|System|A colon-separated list of directories in...|local|true|p
-Path|v|System|old|local||p
-LANG|v|System|Used to determine the locale category fo...|local||p
-PS1|v|System|The primary prompt string.|local|x|p
-HOME|v|System|The current user's home directory; the d...|local|true|p
-DESKTOP_SESSION|v|System|Stores the desktop name.. kde, gnome or something else.|local|true|p
-EDITOR|v|System|old|local||p)")
-                                        .split('\n'));
-        QVERIFY(EveModel::staticMetaObject.indexOfSignal("disableDel()") >= 0);
-        QVERIFY(EveModel::staticMetaObject.indexOfSlot("sort(int,Qt::SortOrder)") >= 0);
+        return model->index(rowOf(*model, name), column);
+    }
+    // Leaves only these variables, each with the value "v", in this order.
+    void fillWith(const QStringList &names)
+    {
+        while (model->rowCount() > 0)
+            model->removeRows(0, 1);
+        for (const QString &name : names)
+            model->insertRows(model->rowCount(), 1, {name, "v"});
     }
 
-    void rows()
+private slots:
+    void init()
     {
-        Sandbox sandbox;
-        EveModel m; // HOME, LOGNAME, SHELL and PATH, all Vip
-        QSignalSpy changed(&m, &EveModel::dataChanged), disabled(&m, &EveModel::disableDel);
-        ModalAnswerer answerer({"Yes", "No", "Cancel", "Yes", "Cancel"}); // the last one is spare
-        QString results, counts, names; // results: of each edit, then dataChanged()s and boxes
-        for (const QString &edit : L{"1a", "1b", "1c", "0n", "3d"}) // column and text
-            results += QString::number(m.setData(m.index(1, edit.left(1).toInt()), edit.mid(1)));
-        results += QString::number(m.setData(m.index(2, 2), "N", "V", "D", "global", "", "", 0));
-        results += QString("%1%2").arg(changed.count()).arg(answerer.seen.size());
-        QCOMPARE(L{results} + rowsOf(m).mid(1, 2), L({"10011144", "n|a|System|d|local|true|tester",
-                                                      "N|V|System|D|global||/bin/bash"}));
-        QCOMPARE(changed[3].mid(0, 2), QVariantList({m.index(2, 0), m.index(2, 6)}));
-        const ModalAnswerer::Seen box = answerer.seen.value(0); // all alike
-        QCOMPARE(box.title + ": " + box.text,
-                 "Request of confirmation: Really change the value of system variable?");
-        QCOMPARE(QSet<QString>(box.buttons.begin(), box.buttons.end()),
-                 QSet<QString>({"Yes", "No", "Cancel"}));
-        fill(m, {"A", "B|2|System", "C|3|", "D|4|system", "E", "F"});
-        for (const QString &fields : L{"", "N|V|D", "N|V|D|g", "N|V|D|g|x"}) // "": no fields
-            QVERIFY(fields.isEmpty() ? m.insertRows(5, 3) : m.insertRows(5, 3, fields.split('|')));
-        QCOMPARE(rowsOf(m).mid(5), L({"F||System||||", "__new__|VALUE|System||||",
-                                      "N|V|System|D|||V", "N|V|System|D|g||V", "||||||"}));
-        m.deletedRows.clear();
-        QVERIFY(m.removeRows(1, 1) && m.removeRows(1, 1) && m.removeRows(1, 1)); // B, C and D
-        QCOMPARE(m.deletedRows, QList<L>({{"C", "3", "System", "", "", "", "3"},
-                                          {"D", "4", "System", "system", "", "", "4"}}));
-        const QModelIndex stale = m.index(0, 0);
-        for (disabled.clear(); m.rowCount() > 0 && m.removeRows(0, 1);) // left, disableDel()s
-            counts += QString(" %1:%2").arg(m.rowCount()).arg(disabled.count());
-        QCOMPARE(counts, QString(" 6:0 5:0 4:0 3:0 2:0 1:1 0:2"));
-        QCOMPARE(m.columnCount() + int(m.flags(stale)), 0);
-        QVERIFY(!m.data(stale).isValid());
-        fill(m, {"beta", "HOME|0", "Alpha", "home|1", "gamma", "HOME|2"});
-        QSignalSpy about(&m, &EveModel::layoutAboutToBeChanged), done(&m, &EveModel::layoutChanged);
-        for (int order : {2, 0, 1}) {
-            m.sort(0, Qt::SortOrder(order));
-            names += rowsOf(m).join(' ').remove(QRegExp("\\|System\\|[^ ]*")) + "\n";
+        SandboxTest::init();
+        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        model.reset(new EveModel);
+    }
+    void cleanup()
+    {
+        model.reset();
+        SandboxTest::cleanup();
+    }
+
+    void headersNameColumnsButNotRows()
+    {
+        QStringList labels;
+        for (int column = 0; column < EveModel::ColumnCount; ++column)
+            labels << model->headerData(column, Qt::Horizontal).toString();
+        QCOMPARE(labels,
+                 QStringList({"Variable", "Value", "Origin", "Description", "5", "6", "7"}));
+        QVERIFY2(!model->headerData(1, Qt::Vertical).isValid(), "rows carry no numbers");
+    }
+
+    void onlyNameValueAndDescriptionAreEditable()
+    {
+        QList<int> editable;
+        for (int column = 0; column < EveModel::ColumnCount; ++column) {
+            const Qt::ItemFlags flags = model->flags(model->index(0, column));
+            QVERIFY(flags.testFlag(Qt::ItemIsSelectable) && flags.testFlag(Qt::ItemIsEnabled));
+            if (flags.testFlag(Qt::ItemIsEditable))
+                editable << column;
         }
-        QCOMPARE(names + QString("%1 %2").arg(about.count()).arg(done.count()), // no "about to"
-                 QString("beta| HOME|0 Alpha| home|1 gamma| HOME|2\n"
-                         "HOME|0 home|1 HOME|2 gamma| beta| Alpha|\n"
-                         "Alpha| beta| gamma| HOME|0 home|1 HOME|2\n0 3"));
-        QRandomGenerator random(20240611);
-        const L words{"ab", "AB", "Ab", "aB", "ba", "BA", "a_", "A_"}; // ties, case only differs
-        for (int key = 0; key < 4; ++key) { // column key / 2, order key % 2
-            for (fill(m, {}); m.rowCount() < 300;)
-                m.insertRows(0, 1, {words[random.bounded(8)], words[random.bounded(8)]});
-            L expected = rowsOf(m); // by a plain bubble sort
-            for (int n = expected.size() - 1, c = key / 2, s = key % 2 ? -1 : 1; n > 0; --n)
-                for (int j = 1; j <= n; ++j)
-                    if (0 > s * QString::compare(expected[j - 1].mid(3 * c, 2),
-                                                 expected[j].mid(3 * c, 2), Qt::CaseInsensitive))
-                        expected.swapItemsAt(j - 1, j);
-            m.sort(key / 2, Qt::SortOrder(key % 2));
-            QCOMPARE(rowsOf(m), expected);
-        }
+        QCOMPARE(editable, QList<int>({0, 1, 3}));
+    }
+
+    void emptyModelHasNoColumnsFlagsOrData()
+    {
+        const QModelIndex formerCell = model->index(0, 0);
+        fillWith({});
+        QCOMPARE(model->columnCount(), 0);
+        QCOMPARE(model->flags(formerCell), Qt::NoItemFlags);
+        QVERIFY(!model->data(formerCell).isValid());
+    }
+
+    void statusTipIsTheAssignment()
+    {
+        model->insertRows(0, 1, {"EMPTY", ""});
+        QCOMPARE(cell("EDITOR", 3).data(Qt::StatusTipRole).toString(), "EDITOR=vim");
+        QCOMPARE(cell("EMPTY", 3).data(Qt::StatusTipRole).toString(), "EMPTY=");
+    }
+
+    void toolTipShowsNameValueAndOrigin_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("origin");
+        QTest::addColumn<QString>("shownValue"); // empty: no line for the value
+        const auto row = [](const char *name, const QString &value, const QString &origin,
+                            const QString &shown) {
+            QTest::newRow(name) << value << origin << shown;
+        };
+        const QString x(80, 'x'), paths = "/usr/local/bin:/usr/bin:/bin:/usr/local/games:/games";
+        row("50 characters are shown whole", x.left(50), "/o", x.left(50));
+        row("51 characters get dots", x.left(51), "/o", x.left(51) + "...");
+        row("80 characters are cut after 51", x, "/o", x.left(51) + "...");
+        row("a path list gets spaces before its colons", paths, "/o",
+            QString(paths).replace(":", " :"));
+        row("an empty value has no line", "", "/o", "");
+        row("an empty origin has no line", "vim", "", "vim");
+    }
+    void toolTipShowsNameValueAndOrigin()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, origin);
+        QFETCH(QString, shownValue);
+        model->insertRows(0, 1, {"X", value, "a description is never shown"});
+        model->setData(cell("X", EveModel::OriginColumn), origin);
+        const auto line = [](const QString &label, const QString &text) {
+            return text.isEmpty() ? "" : "<tr><td><b>" + label + "</b>: " + text + "</td></tr>";
+        };
+        QCOMPARE(cell("X", 0).data(Qt::ToolTipRole).toString(),
+                 "<table>" + line("Variable", "X") + line("Value", shownValue) +
+                     line("Origin", origin) + "</table>");
+    }
+
+    void cellEditOfCriticalVariableAsksFirst_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("answer"); // empty: no question
+        QTest::addColumn<bool>("changed");
+        QTest::addRow("Yes changes the value") << 1 << "Yes" << true;
+        QTest::addRow("Cancel keeps the value") << 1 << "Cancel" << false;
+        QTest::addRow("No keeps the name") << 0 << "No" << false;
+        QTest::addRow("the description changes unasked") << 3 << "" << true;
+    }
+    void cellEditOfCriticalVariableAsksFirst()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, answer);
+        QFETCH(bool, changed);
+        const QString before = cell("SHELL", column).data().toString();
+        if (!answer.isEmpty())
+            answerer->addAnswer(answer);
+        QCOMPARE(model->setData(cell("SHELL", column), "/bin/zsh"), changed);
+        QCOMPARE(answerer->pending(), 0);
+        QCOMPARE(answerer->seen.size(), answer.isEmpty() ? 0 : 1);
+        QCOMPARE(answerer->seen.value(0).text,
+                 answer.isEmpty() ? "" : "Really change the value of system variable?");
+        QCOMPARE(cell("SHELL", column).data().toString(), changed ? "/bin/zsh" : before);
+        QCOMPARE(cellOf(*model, "SHELL", EveModel::PreviousColumn), changed ? before : "");
+    }
+
+    void previousValueKeepsTheTextBeforeTheFirstEdit()
+    {
+        QSignalSpy changes(model.data(), &EveModel::dataChanged);
+        QVERIFY(model->setData(cell("EDITOR", 1), "emacs"));
+        QVERIFY(model->setData(cell("EDITOR", 1), "nano"));
+        QVERIFY(!model->setData(cell("EDITOR", 1), "ed", Qt::DisplayRole));
+        QCOMPARE(recordOf(*model, "EDITOR").mid(1),
+                 QStringList({"nano", "System", "", "local", "", "vim"}));
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(changes.at(1).mid(0, 2), QVariantList({cell("EDITOR", 1), cell("EDITOR", 1)}));
+    }
+
+    void recordUpdateReplacesFiveFieldsUnasked()
+    {
+        QSignalSpy changes(model.data(), &EveModel::dataChanged);
+        const int row = rowOf(*model, "SHELL");
+        model->setData(model->index(row, 2), "ZSH", "/bin/zsh", "d", "global", "", "",
+                       Qt::EditRole);
+        QCOMPARE(recordOf(*model, "ZSH"),
+                 QStringList({"ZSH", "/bin/zsh", "System", "d", "global", "", "/bin/bash"}));
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(changes.at(0).mid(0, 2),
+                 QVariantList({model->index(row, 0), model->index(row, 6)}));
+    }
+
+    void insertAppendsOneRow()
+    {
+        fillWith({"A"});
+        QVERIFY(model->insertRows(0, 3));
+        QVERIFY(model->insertRows(0, 1, {"N", "V"}));
+        QVERIFY(model->insertRows(0, 1, {"S", "V", "D", "global"}));
+        QCOMPARE(namesOf(*model), QStringList({"A", "__new__", "N", "S"}));
+        QCOMPARE(recordOf(*model, "__new__"),
+                 QStringList({"__new__", "VALUE", "System", "", "", "", ""}));
+        QCOMPARE(recordOf(*model, "N"), QStringList({"N", "V", "System", "", "", "", "V"}));
+        QCOMPARE(recordOf(*model, "S"), QStringList({"S", "V", "System", "D", "global", "", "V"}));
+    }
+
+    void removedRowIsKeptForTheNextSave_data()
+    {
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<bool>("kept");
+        QTest::addRow("a row described as anything") << "mine" << true;
+        QTest::addRow("a row without description") << "" << true;
+        QTest::addRow("a row described as system") << "system" << true;
+        QTest::addRow("a row described exactly as System") << "System" << false;
+    }
+    void removedRowIsKeptForTheNextSave()
+    {
+        QFETCH(QString, description);
+        QFETCH(bool, kept);
+        model->setData(cell("EDITOR", EveModel::DescriptionColumn), description);
+        QSignalSpy layoutChanges(model.data(), &EveModel::layoutChanged);
+        QVERIFY(model->removeRows(rowOf(*model, "EDITOR"), 1));
+        QCOMPARE(rowOf(*model, "EDITOR"), -1);
+        QCOMPARE(layoutChanges.count(), 1);
+        QCOMPARE(model->deletedRows.size(), kept ? 1 : 0);
+        QCOMPARE(model->deletedRows.value(0).value(0), kept ? "EDITOR" : "");
+    }
+
+    void disableDelComesWhenAtMostOneRowIsLeft()
+    {
+        fillWith({"A", "B", "C"});
+        QSignalSpy disableDel(model.data(), &EveModel::disableDel);
+        QList<int> counts;
+        while (model->rowCount() > 0 && model->removeRows(0, 1))
+            counts << disableDel.count();
+        QCOMPARE(counts, QList<int>({0, 1, 2}));
+    }
+
+    void sortPutsZBeforeAWhenAscending_data()
+    {
+        QTest::addColumn<int>("order");
+        QTest::addColumn<QStringList>("names");
+        QTest::addRow("ascending, equal texts keep their order")
+            << 0 << QStringList{"home", "HOME", "gamma", "beta", "Alpha"};
+        QTest::addRow("descending, equal texts keep their order")
+            << 1 << QStringList{"Alpha", "beta", "gamma", "home", "HOME"};
+        QTest::addRow("another order moves nothing")
+            << 2 << QStringList{"beta", "home", "Alpha", "HOME", "gamma"};
+    }
+    void sortPutsZBeforeAWhenAscending()
+    {
+        QFETCH(int, order);
+        fillWith({"beta", "home", "Alpha", "HOME", "gamma"});
+        QSignalSpy aboutToChange(model.data(), &EveModel::layoutAboutToBeChanged);
+        QSignalSpy changed(model.data(), &EveModel::layoutChanged);
+        model->sort(0, Qt::SortOrder(order));
+        QTEST(namesOf(*model), "names");
+        QCOMPARE(aboutToChange.count(), 0);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void sortKeepsTheOrderOfEqualTextsInLongTables()
+    {
+        fillWith({});
+        for (int row = 0; row < 40; ++row)
+            model->insertRows(row, 1, {row % 2 ? "home" : "HOME", QString::number(row)});
+        model->sort(0, Qt::AscendingOrder);
+        for (int row = 0; row < 40; ++row)
+            QCOMPARE(model->index(row, 1).data().toString(), QString::number(row));
     }
 };
 

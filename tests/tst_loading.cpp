@@ -1,82 +1,132 @@
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
-
-#include <QApplication>
-#include <QSettings>
-#include <QtTest>
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 
 #include <sys/stat.h>
 
-using L = QStringList;
+static QString bashrc()
+{
+    return Sandbox::home() + "/.bashrc";
+}
 
-class TestLoading : public QObject
+class TestLoading : public SandboxTest
 {
     Q_OBJECT
 
-    // Rows as "NAME|Value|Origin|Description|Vip", sorted; the sandbox home is "~" and the
-    // sandbox root "/".
-    static L rowsOf(const EveModel &model)
+private slots:
+    void exportLineGivesTheOrigin_data()
     {
-        L rows;
-        for (int r = 0; r < model.rowCount(); ++r) {
-            L row;
-            for (int column : {0, 1, 2, 3, 5})
-                row << model.index(r, column).data().toString();
-            rows << row.join('|').replace(Sandbox::home(), "~").replace(Sandbox::sysroot(), "");
-        }
-        rows.sort();
-        return rows;
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<bool>("exported");
+        QTest::addRow("an export line") << QByteArray("export FOO=bar") << true;
+        QTest::addRow("a commented-out export line") << QByteArray("# export FOO=bar") << true;
+        QTest::addRow("an export after a command") << QByteArray("cd; export FOO=\"a b\"") << true;
+        QTest::addRow("a line ending in CR LF") << QByteArray("export FOO=bar\r") << true;
+        QTest::addRow("exported is not export") << QByteArray("exported FOO=bar") << false;
+        QTest::addRow("reexport is not export either") << QByteArray("reexport FOO=bar") << false;
+        QTest::addRow("an assignment alone") << QByteArray("FOO=bar") << false;
+        QTest::addRow("the name in small letters") << QByteArray("export foo=bar") << false;
+        QTest::addRow("a value without word characters") << QByteArray("export FOO=/") << false;
+        QTest::addRow("a second assignment on the line") << QByteArray("export A=1 FOO=2") << false;
+    }
+    void exportLineGivesTheOrigin()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(bool, exported);
+        Sandbox::writeFile(bashrc(), "# first line\n" + line + "\nlast line\n");
+        Sandbox::setUserEnvironment({"FOO=from the environment"});
+        EveModel model;
+        QCOMPARE(cellOf(model, "FOO", EveModel::OriginColumn), exported ? bashrc() : "System");
+        QCOMPARE(cellOf(model, "FOO", EveModel::ValueColumn), "from the environment");
     }
 
-private slots:
-    void load()
+    void lastFileThatExportsWins()
     {
-        Sandbox sandbox;
-        const QString dir = Sandbox::system("/etc/dir"), fifo = Sandbox::system("/etc/fifo");
-        Sandbox::blockPath(dir);
-        QCOMPARE(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-        Sandbox::writeFile(Sandbox::system("/etc/next"), "export EDITOR=vi\n");
-        Sandbox::writeFile(Sandbox::system("/etc/profile"),
-                           "export PATH=/a\nexport SYS=1\nexport COMM=1\n");
-        Sandbox::writeFile(
-            Sandbox::home() + "/.bashrc",
-            "export PATH=/b\n# export COMM=2\nPLAIN=2\nexport case=2\nexport ONLY=2\n" +
-                QByteArrayLiteral("\xff\xfe\nexport V1=a\xff\r\n\0\nexport V2=b\0c\n") +
-                QByteArray(1 << 20, 'x') + "\nexport V3=c\nexport V4=d");
-        QSettings settings;
-        settings.setValue("configFiles/system", L{dir, fifo, Sandbox::system("/etc/next")});
-        settings.setValue("configFiles/bash", L{Sandbox::home() + "/missing"});
-        settings.setValue("variables/HOME/description", "h");
-        settings.setValue("variables/PATH/description", ""); // wins over the catalogue
-        settings.setValue("variables/LOGNAME/vip", "");
-        settings.setValue("variables/EDITOR/description", "ed");
-        settings.setValue("variables/EDITOR/vip", "true");
-        Sandbox::setUserEnvironment({"SYS=s", "COMM=c", "PLAIN=p", "CASE=k", "V1=1", "V2=2", "V3=3",
-                                     "V4=4", "EMPTY=", "A-B=1", "=x", "-=y", "EDITOR=vim"});
-        ModalAnswerer answerer({"OK", "OK", "OK", "OK", "OK"}); // one spare
+        const QString profile = Sandbox::system("/etc/profile");
+        Sandbox::writeFile(profile, "export PATH=/a\nexport SYS=1\n");
+        Sandbox::writeFile(bashrc(), "export PATH=/b\nexport ONLY_IN_A_FILE=1\n");
+        Sandbox::setUserEnvironment({"SYS=1"});
         EveModel model;
-        L boxes;
-        for (const ModalAnswerer::Seen &box : qAsConst(answerer.seen))
-            boxes << L{box.className, box.title, box.text, box.buttons.join(',')}.join('|');
-        // A directory and a FIFO are not read; loading goes on with the next file.
-        QCOMPARE(boxes.replaceInStrings(Sandbox::sysroot(), ""),
-                 L({"QMessageBox||Couldn't open file: /etc/dir !|OK",
-                    "QMessageBox||Couldn't open file: /etc/fifo !|OK"}));
-        // Values come from the environment; the last file that exports a name is its Origin.
-        const L rows = rowsOf(model);
-        QCOMPARE(
-            rows,
-            L({"B|1|System||", "CASE|k|System||", "COMM|c|~/.bashrc||",
-               "EDITOR|vim|/etc/next|ed|true", "EMPTY||System||", "HOME|~|System|h|true",
-               "LOGNAME|tester|System|Your logname|", "PATH|/usr/bin:/bin|~/.bashrc||true",
-               "PLAIN|p|System||", "SHELL|/bin/bash|System|Your shell|true", "SYS|s|/etc/profile||",
-               "V1|1|~/.bashrc||", "V2|2|~/.bashrc||", "V3|3|~/.bashrc||", "V4|4|~/.bashrc||"}));
-        QVERIFY(model.removeRows(0, 1) && model.deletedRows.size() == 1);
+        QCOMPARE(cellOf(model, "PATH", EveModel::OriginColumn), bashrc());
+        QCOMPARE(cellOf(model, "SYS", EveModel::OriginColumn), profile);
+        QCOMPARE(rowOf(model, "ONLY_IN_A_FILE"), -1);
+    }
+
+    void environmentEntriesBecomeRows_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("name"); // empty: no row
+        QTest::addColumn<QString>("value");
+        const auto row = [](const char *name, const char *entry, const char *variable,
+                            const char *value) {
+            QTest::newRow(name) << entry << variable << value;
+        };
+        row("an ordinary entry", "EDITOR=vim", "EDITOR", "vim");
+        row("an empty value", "EMPTY=", "EMPTY", "");
+        row("spaces and equals signs in the value", "X= a=b ", "X", " a=b ");
+        row("a hyphenated name keeps its last part", "A-B=1", "B", "1");
+        row("an entry without a name is skipped", "=x", "", "");
+    }
+    void environmentEntriesBecomeRows()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        Sandbox::setUserEnvironment({entry});
+        EveModel model;
+        QCOMPARE(model.rowCount(), name.isEmpty() ? 4 : 5);
+        if (!name.isEmpty())
+            QCOMPARE(recordOf(model, name),
+                     QStringList({name, value, "System", "", "local", "", ""}));
+    }
+
+    void storedDescriptionAndMarkWinOverTheCatalogue()
+    {
+        QSettings settings;
+        settings.setValue("variables/PATH/description", "");
+        settings.setValue("variables/LOGNAME/vip", "");
+        settings.setValue("variables/EDITOR/description", "mine");
+        settings.setValue("variables/EDITOR/vip", "true");
+        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        EveModel model;
+        QCOMPARE(recordOf(model, "PATH").mid(3, 3), QStringList({"", "local", "true"}));
+        QCOMPARE(recordOf(model, "LOGNAME").mid(3, 3), QStringList({"Your logname", "local", ""}));
+        QCOMPARE(recordOf(model, "EDITOR").mid(3, 3), QStringList({"mine", "local", "true"}));
+    }
+
+    void unreadableFilesAreReportedAndSkipped()
+    {
+        const QString directory = Sandbox::system("/etc/directory");
+        const QString fifo = Sandbox::system("/etc/fifo"), next = Sandbox::system("/etc/next");
+        Sandbox::blockPath(directory);
+        QCOMPARE(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        Sandbox::writeFile(next, "export EDITOR=vi\n");
+        QSettings().setValue("configFiles/system", QStringList{directory, fifo, "missing", next});
+        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        answerer->addAnswer("OK");
+        answerer->addAnswer("OK");
+        EveModel model;
+        QCOMPARE(answerer->seen.size(), 2);
+        QCOMPARE(answerer->seen.at(0).title, "");
+        QCOMPARE(answerer->seen.at(0).text, "Couldn't open file: " + directory + " !");
+        QCOMPARE(answerer->seen.at(1).text, "Couldn't open file: " + fifo + " !");
+        QCOMPARE(cellOf(model, "EDITOR", EveModel::OriginColumn), next);
+    }
+
+    void reloadForgetsEditsAndDeletions()
+    {
+        Sandbox::writeFile(bashrc(), "export EDITOR=vi\n");
+        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        EveModel model;
+        QSignalSpy resets(&model, &EveModel::modelReset);
+        model.setData(model.index(rowOf(model, "EDITOR"), EveModel::ValueColumn), "nano");
+        model.insertRows(model.rowCount(), 1, {"NEW", "1"});
+        model.removeRows(rowOf(model, "EDITOR"), 1);
         QVERIFY(model.reload());
+        QCOMPARE(resets.count(), 1);
         QVERIFY(model.deletedRows.isEmpty());
-        QCOMPARE(rowsOf(model), rows);
-        QCOMPARE(answerer.seen.size(), 4);
+        QCOMPARE(rowOf(model, "NEW"), -1);
+        QCOMPARE(recordOf(model, "EDITOR").mid(1, 2), QStringList({"vim", bashrc()}));
     }
 };
 

@@ -1,118 +1,219 @@
-#include "eve.h"
 #include "evemodel.h"
-#include "modalanswerer.h"
 #include "preferencesdialog.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
 
 #include <QFileDialog>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QToolTip>
-#include <QtTest>
 
-class TestPreferences : public QObject
+class TestPreferences : public SandboxTest
 {
     Q_OBJECT
 
-    // OK and Apply, then per list: the list, Up, Down, Add and Remove; '.' when disabled.
-    static QString states(preferencesDialog &d)
+    QScopedPointer<EveModel> model;
+    QScopedPointer<preferencesDialog> dialog;
+
+    // The dialog over the files a, b and c in both lists.
+    void open(const QString &login = "root", const QString &shell = "bash")
     {
-        QWidgetList w{d.buttonBox->button(QDialogButtonBox::Ok),
-                      d.buttonBox->button(QDialogButtonBox::Apply)};
-        for (const QString side : {"system", "user"})
-            for (auto part : {"FilesList", "UpButton", "DownButton", "AddButton", "RemoveButton"})
-                w << d.findChild<QWidget *>(side + part);
-        QString s = "OALUDARludar";
-        for (int i = 0; i < s.size(); ++i)
-            s[i] = w[i]->isEnabled() ? s[i] : QChar('.');
-        return s.insert(7, ' ').insert(2, ' ');
+        Sandbox::setUserEnvironment({"LOGNAME=" + login, "SHELL=/bin/" + shell});
+        model.reset(new EveModel);
+        model->systemFiles = model->userFiles = QStringList{"a", "b", "c"};
+        dialog.reset(new preferencesDialog(nullptr, model.data()));
+    }
+    QListWidget *list(const QString &which) const
+    {
+        return dialog->findChild<QListWidget *>(which + "FilesList");
+    }
+    QPushButton *button(const QString &which, const QString &role) const
+    {
+        return dialog->findChild<QPushButton *>(which + role + "Button");
+    }
+    QPushButton *ok() const { return dialog->buttonBox->button(QDialogButtonBox::Ok); }
+    QPushButton *apply() const { return dialog->buttonBox->button(QDialogButtonBox::Apply); }
+    void remove(const QString &which, int row)
+    {
+        list(which)->setCurrentRow(row);
+        button(which, "Remove")->click();
+    }
+    QStringList itemsOf(const QString &which) const
+    {
+        QStringList items;
+        for (int row = 0; row < list(which)->count(); ++row)
+            items << list(which)->item(row)->text();
+        return items;
+    }
+    static QStringList stored(const QString &key)
+    {
+        return QSettings().value("configFiles/" + key).toStringList();
     }
 
 private slots:
-    // "login[:shell] list files row click..." (the dialog's button, else the list's; Add picks
-    // "added"): items (~: file dialog's start), current row, states | model's lists, configFiles.
-    void clicks_data()
+    void cleanup()
     {
-        QTest::addColumn<QString>("result");
-        QTest::newRow("tester user 3 -1") << "abc|-1|.. ..... l..a. | abc abc";
-        QTest::newRow("root system 3 -1") << "abc|-1|.. L..A. l..a. | abc abc";
-        QTest::newRow("root system 3 1") << "abc|1|.. LUDAR l..a. | abc abc";
-        QTest::newRow("root system 1 0") << "a|0|.. L..AR l..a. | a a";
-        QTest::newRow("root system 3 1 Up") << "bac|0|OA L.DAR l..a. | abc abc";
-        QTest::newRow("root system 3 1 Down") << "acb|2|OA LU.AR l..a. | abc abc";
-        QTest::newRow("root system 3 1 Remove") << "ac|1|OA LU.AR l..a. | abc abc";
-        QTest::newRow("root system 3 2 Remove") << "ab|1|OA LU.AR l..a. | abc abc";
-        QTest::newRow("root user 3 2 Up") << "acb|1|OA L..A. ludar | abc abc";
-        QTest::newRow("root user 3 0 Down") << "bac|1|OA L..A. ludar | abc abc";
-        QTest::newRow("root user 3 0 Remove") << "bc|0|OA L..A. l.dar | abc abc";
-        QTest::newRow("root system 1 -1 Add") << "~/open a~/added|-1|OA L..A. l..a. | a a";
-        QTest::newRow("root user 1 -1 Add") << "~/open a~/added|-1|OA L..A. l..a. | a a";
-        QTest::newRow("root user 1 -1 Add Cancel") << "~/open a|-1|.. L..A. l..a. | a a";
-        QTest::newRow("root user 2 0 Remove OK") << "b|0|OA L..A. l..ar | ab b bash=b system=ab";
-        QTest::newRow("root:tcsh user 1 0 Remove OK") << "|-1|OA L..A. l..a. | a  system=a tcsh=";
-        QTest::newRow("root:sh user 2 0 Remove OK") << "b|0|OA L..A. l..ar | ab b system=ab";
-        QTest::newRow("root system 1 0 Remove OK") << "|-1|OA L..A. l..a. |  a bash=a system=";
-        QTest::newRow("root user 2 0 Remove Apply") << "b|0|O. L..A. l..ar | ab b bash=b system=ab";
-        QTest::newRow("root user 2 0 Remove Apply Remove Cancel")
-            << "|-1|OA L..A. l..a. | ab b bash=b system=ab";
-    }
-    void clicks()
-    {
-        Sandbox sandbox;
-        QStringList w = QString(QTest::currentDataTag()).split(' ');
-        Sandbox::setUserEnvironment(
-            w[0].prepend("LOGNAME=").replace(':', ",SHELL=/bin/").split(','));
-        Eve window;
-        EveModel *m = window.eveModel();
-        m->systemFiles = m->userFiles = QStringList{"a", "b", "c"}.mid(0, w[2].toInt());
-        const QString start = w[1] == "system" ? Sandbox::system("/etc") : Sandbox::home();
-        Sandbox::writeFile(start + "/added", "");
-        preferencesDialog d(&window, m);
-        auto *list = d.findChild<QListWidget *>(w[1] + "FilesList");
-        list->setCurrentRow(w[3].toInt());
-        QString result;
-        ModalAnswerer answerer;
-        answerer.addAction([&](QWidget *widget) {
-            auto *dialog = qobject_cast<QFileDialog *>(widget);
-            result = dialog ? dialog->directory().absolutePath() + "/open " : "?";
-            if (dialog && w.last() == "Add") // typed: selectFile() skips a focused editor
-                widget->findChild<QWidget *>("fileNameEdit")->setProperty("text", start + "/added");
-            ModalAnswerer::clickButton(widget, w.last() == "Add" ? "Open" : "Cancel");
-            widget->close();
-        });
-        for (const QString &click : w.mid(4))
-            if (!ModalAnswerer::clickButton(&d, click))
-                d.findChild<QPushButton *>(w[1] + click + "Button")->click();
-        for (int row = 0; row < list->count(); ++row)
-            result += list->item(row)->text();
-        result += '|' + QString::number(list->currentRow()) + '|' + states(d);
-        QSettings settings;
-        settings.beginGroup("configFiles");
-        result += " | " + m->systemFiles.join("") + ' ' + m->userFiles.join("");
-        for (const QString &key : settings.childKeys())
-            result += ' ' + key + '=' + settings.value(key).toStringList().join("");
-        QTEST(result.replace(start, "~"), "result");
+        dialog.reset();
+        model.reset();
+        SandboxTest::cleanup();
     }
 
-    void keys()
+    void opensWithTheAllowedAddButtonsOnly_data()
     {
-        Sandbox sandbox;
-        Eve window;
-        preferencesDialog d(&window, window.eveModel());
-        d.userAddButton->setToolTip("Adds a user file");
-        QStringList seen;
-        ModalAnswerer answerer;
-        answerer.addAction([&](QWidget *dialog) {
-            ModalAnswerer files({"Cancel"}); // a file dialog would be opened from in here
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // the Add button
-            QTest::keyClick(dialog, Qt::Key_F1);
-            seen << QString::number(files.seen.size()) << (dialog->isVisible() ? "open" : "shut")
-                 << QToolTip::text();
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            if (dialog->isVisible()) // never left open
-                static_cast<QDialog *>(dialog)->done(2);
+        QTest::addColumn<QString>("login");
+        QTest::addRow("a user may not change the system list") << "tester";
+        QTest::addRow("root may change both lists") << "root";
+    }
+    void opensWithTheAllowedAddButtonsOnly()
+    {
+        QFETCH(QString, login);
+        open(login);
+        model->userFiles = QStringList{"mine"};
+        dialog.reset(new preferencesDialog(nullptr, model.data()));
+        QCOMPARE(itemsOf("system"), QStringList({"a", "b", "c"}));
+        QCOMPARE(itemsOf("user"), QStringList({"mine"}));
+        QCOMPARE(list("system")->isEnabled(), login == "root");
+        QCOMPARE(button("system", "Add")->isEnabled(), login == "root");
+        QVERIFY(button("user", "Add")->isEnabled());
+        for (const QString which : {"system", "user"})
+            for (const QString role : {"Up", "Down", "Remove"})
+                QVERIFY2(!button(which, role)->isEnabled(), qPrintable(which + role));
+        QVERIFY(!ok()->isEnabled() && !apply()->isEnabled());
+    }
+
+    void buttonsChangeTheList_data()
+    {
+        QTest::addColumn<QString>("which");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("role");
+        QTest::addColumn<QStringList>("items");
+        QTest::addColumn<int>("currentRow");
+        for (const char *which : {"system", "user"}) {
+            QTest::addRow("Up moves a %s file up", which)
+                << which << 1 << "Up" << QStringList{"b", "a", "c"} << 0;
+            QTest::addRow("Down moves a %s file down", which)
+                << which << 1 << "Down" << QStringList{"a", "c", "b"} << 2;
+            QTest::addRow("Remove drops the last %s file", which)
+                << which << 2 << "Remove" << QStringList{"a", "b"} << 1;
+            QTest::addRow("Remove drops the first %s file", which)
+                << which << 0 << "Remove" << QStringList{"b", "c"} << 0;
+        }
+    }
+    void buttonsChangeTheList()
+    {
+        QFETCH(QString, which);
+        QFETCH(int, row);
+        QFETCH(QString, role);
+        QFETCH(int, currentRow);
+        open();
+        list(which)->setCurrentRow(row);
+        button(which, role)->click();
+        QTEST(itemsOf(which), "items");
+        QCOMPARE(list(which)->currentRow(), currentRow);
+        QCOMPARE(button(which, "Up")->isEnabled(), currentRow > 0);
+        QCOMPARE(button(which, "Down")->isEnabled(), currentRow < list(which)->count() - 1);
+        QVERIFY(ok()->isEnabled() && apply()->isEnabled());
+        QCOMPARE(model->userFiles, QStringList({"a", "b", "c"}));
+    }
+
+    void addAppendsTheChosenFile_data()
+    {
+        QTest::addColumn<QString>("which");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("chosen");
+        QTest::addRow("a user file") << "user" << Sandbox::home() << true;
+        QTest::addRow("a system file") << "system" << Sandbox::system("/etc") << true;
+        QTest::addRow("a cancelled choice") << "user" << Sandbox::home() << false;
+    }
+    void addAppendsTheChosenFile()
+    {
+        QFETCH(QString, which);
+        QFETCH(QString, folder);
+        QFETCH(bool, chosen);
+        open();
+        Sandbox::writeFile(folder + "/added", "");
+        QString shownFolder;
+        answerer->addAction([&](QWidget *widget) {
+            shownFolder = qobject_cast<QFileDialog *>(widget)->directory().absolutePath();
+            if (chosen) // typed, as selectFile() leaves a focused name editor alone
+                widget->findChild<QLineEdit *>("fileNameEdit")->setText(folder + "/added");
+            ModalAnswerer::clickButton(widget, chosen ? "Open" : "Cancel");
         });
-        QCOMPARE(d.exec(), int(QDialog::Rejected));
-        QCOMPARE(seen.join('|'), "0|open|Adds a user file");
+        button(which, "Add")->click();
+        QCOMPARE(shownFolder, folder);
+        QCOMPARE(itemsOf(which).mid(3), chosen ? QStringList{folder + "/added"} : QStringList());
+        QCOMPARE(apply()->isEnabled(), chosen);
+    }
+
+    void okStoresTheListsByShellKind_data()
+    {
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QString>("userKey"); // empty: the user list is not stored
+        QTest::addRow("bash stores the user list under bash") << "bash"
+                                                              << "bash";
+        QTest::addRow("tcsh stores the user list under tcsh") << "tcsh"
+                                                              << "tcsh";
+        QTest::addRow("another shell does not store the user list") << "sh"
+                                                                    << "";
+    }
+    void okStoresTheListsByShellKind()
+    {
+        QFETCH(QString, shell);
+        QFETCH(QString, userKey);
+        open("root", shell);
+        remove("system", 0);
+        remove("user", 2);
+        ok()->click();
+        QCOMPARE(dialog->result(), int(QDialog::Accepted));
+        QCOMPARE(model->systemFiles, QStringList({"b", "c"}));
+        QCOMPARE(model->userFiles, QStringList({"a", "b"}));
+        QCOMPARE(stored("system"), QStringList({"b", "c"}));
+        for (const QString key : {"bash", "tcsh"})
+            QCOMPARE(stored(key), key == userKey ? QStringList({"a", "b"}) : QStringList());
+    }
+
+    void applyStoresAndKeepsTheDialogOpen()
+    {
+        open();
+        QCOMPARE(dialog->size(), QSize(400, 400));
+        dialog->resize(500, 450);
+        remove("user", 0);
+        apply()->click();
+        QVERIFY(!apply()->isEnabled());
+        QVERIFY(ok()->isEnabled());
+        QCOMPARE(stored("bash"), QStringList({"b", "c"}));
+        remove("user", 0);
+        dialog->buttonBox->button(QDialogButtonBox::Cancel)->click();
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+        QCOMPARE(stored("bash"), QStringList({"b", "c"}));
+        QCOMPARE(preferencesDialog(nullptr, model.data()).size(), QSize(500, 450));
+    }
+
+    void returnNeedsOkEnabledAndEscapeRejects()
+    {
+        open();
+        QSignalSpy finished(dialog.data(), &QDialog::finished);
+        QTest::keyClick(dialog.data(), Qt::Key_Return);
+        QVERIFY2(finished.isEmpty(), "Return clicks OK, which is disabled while nothing changed");
+        QTest::keyClick(dialog.data(), Qt::Key_Escape);
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(finished.at(0).at(0).toInt(), int(QDialog::Rejected));
+        QVERIFY(QSettings().allKeys().isEmpty());
+    }
+
+    void f1ShowsHelpOnTheFocusedWidget()
+    {
+        open();
+        button("user", "Add")->setToolTip("Adds a user file");
+        QString shown;
+        answerer->addAction([&shown](QWidget *dialog) {
+            if (!QTest::qWaitForWindowActive(dialog)) // the Add button gets the focus then
+                qWarning("the preferences dialog never became active");
+            QTest::keyClick(dialog, Qt::Key_F1);
+            shown = QToolTip::text();
+            QToolTip::hideText();
+            static_cast<QDialog *>(dialog)->reject();
+        });
+        dialog->exec();
+        QCOMPARE(shown, "Adds a user file");
     }
 };
 

@@ -1,138 +1,218 @@
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 
-#include <QApplication>
-#include <QtTest>
-
-static int rowOf(const EveModel &m, const QString &name)
+static QString bashrc()
 {
-    return m.match(m.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0).row();
+    return Sandbox::home() + "/.bashrc";
 }
 
-// Edits a variable as the editor dialog does: updates an existing row, else adds one.
-static void change(EveModel &m, const QString &name, const QString &value, const QString &scope,
-                   const QString &description = QString())
+static QString profile()
 {
-    const int row = rowOf(m, name);
+    return Sandbox::system("/etc/profile");
+}
+
+// Sets a variable as the editor dialog does: a known one through the record
+// update, a new one as a new row.
+static void change(EveModel &model, const QString &name, const QString &value,
+                   const QString &scope = "local", const QString &description = QString())
+{
+    const int row = rowOf(model, name);
     if (row < 0)
-        m.insertRows(m.rowCount(), 1, {name, value, description, scope});
+        model.insertRows(model.rowCount(), 1, {name, value, description, scope});
     else
-        m.setData(m.index(row, 0), name, value, description, scope, "", "", Qt::EditRole);
+        model.setData(model.index(row, 0), name, value, description, scope, "", value, 2);
 }
 
-static QString boxes(const ModalAnswerer &answerer)
-{
-    QString out;
-    for (const ModalAnswerer::Seen &box : answerer.seen)
-        out += box.title + ": " + box.text + " [" + box.buttons.join(',') + "]\n";
-    return out;
-}
-
-class TestSaving : public QObject
+class TestSaving : public SandboxTest
 {
     Q_OBJECT
 
-    static QString local() { return Sandbox::home() + "/.bashrc"; }
-    static QString profile() { return Sandbox::system("/etc/profile"); }
-    static QString global() { return Sandbox::system("/etc/bash.bashrc"); }
-
 private slots:
-    void saves_data()
+    void writesTheAssignment_data()
     {
-        QTest::addColumn<QString>("setup"); // environment, global (scope), block/link profile
-        QTest::addColumn<QString>("edit");  // NAME=value, or -NAME to delete
-        QTest::addColumn<QByteArray>("profileBefore");
-        QTest::addColumn<QByteArray>("localBefore"); // null: no file
-        QTest::addColumn<QString>("target");         // the one file that changes
-        QTest::addColumn<QByteArray>("expected");
-        QTest::addColumn<QString>("warnings");
-        const auto add = [](const char *tag, const char *setup, const char *edit,
-                            QByteArray profile, QByteArray local, QString target,
-                            QByteArray expected, QString warn = {}) {
-            QTest::newRow(tag) << setup << edit << profile << local << target << expected << warn;
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QByteArray>("after");
+        const auto row = [](const char *name, const char *before, const char *value,
+                            const char *after) {
+            QTest::newRow(name) << QByteArray(before) << QString(value) << QByteArray(after);
         };
-        const QByteArray no, ab = "export FOO=\"a b\"\n", pathAB = "export PATH=\"a b\"\n";
-        add("new, empty local", "", "FOO=a b", no, "", local(), ab);
-        add("new, prepended", "", "FOO=a b", no, "x=1", local(), ab + "x=1\n");
-        add("MANPATH too", "global", "PATH=a b", "export MANPATH=/m\nexport PATH=/b # c\n", no,
-            profile(), "export MANPATH=\"a b\"\n" + pathAB);
-        add("latin-1, crlf", "", "PATH=a b", "# \xe9\r\nexport PATH=/b\r\n", no, profile(),
-            "# \xe9\n" + pathAB);
-        add("link kept", "link", "PATH=a b", "export PATH=/b\n", no, profile(), pathAB);
-        add("origin blocked", "block", "PATH=a b", "export PATH=/b\n", no, local(), pathAB);
-        add("global, user", "global", "FOO=a b", no, no, local(), ab);
-        add("global, root", "LOGNAME=root global", "FOO=a b", no, no, global(), ab);
-        add("trimmed", "", "FOO=  x  ", no, no, local(), "export FOO=x\n");
-        add("quote", "", "FOO=a\"b", no, no, local(), "export FOO=a\\\"b\n");
-        add("quoted", "", "FOO=\"x y\"", no, no, local(), "export FOO=\"\\\"x y\\\"\"\n");
-        add("tab", "", "FOO=a\tb", no, no, local(), "export FOO=a\tb\n");
-        add("newline", "", "FOO=a\nb\n", no, no, local(), "export FOO=a\nb\n");
-        add("name A[", "", "A[=1", no, "export FOO=0\n", local(), "export A[=1\nexport FOO=0\n");
-        add("name \\", "", "F\\OO=1", no, "export FOO=0\n", local(), "export F\\OO=1\n");
-        add("name ^", "", "^FOO=1", no, "export FOO=0\n", local(), "export ^FOO=1\nexport FOO=0\n");
-        add("deleted, only line", "FOO=1", "-FOO", "export FOO=1", no, profile(), " \n");
-        add("deleted, environment only", "FOO=1", "-FOO", no, no, QString(), no);
-        add("deleted, origin blocked", "FOO=1 block", "-FOO", "export FOO=1\n", no, QString(), no,
-            "Warning!: Couldn't open file " + profile() + " for deleting variable FOO [OK]\n");
-        add("nothing changed", "", "", "export PATH=/bin", no, QString(), no);
+        row("a new variable in an empty file", "", "1", "export FOO=1\n");
+        row("a new variable becomes the first line", "x=1", "1", "export FOO=1\nx=1\n");
+        row("an assignment is replaced to the end of its line", "export FOO=0 # old\n", "1",
+            "export FOO=1\n");
+        row("every line holding the assignment is rewritten", "FOO=0\nexport FOO=0\n", "1",
+            "FOO=1\nexport FOO=1\n");
+        row("a longer name ending alike is rewritten too", "export MYFOO=0\n", "1",
+            "export MYFOO=1\n");
+        row("other lines keep their bytes", "# \xe9\r\nexport FOO=0\r\n", "1",
+            "# \xe9\nexport FOO=1\n");
+        row("the value is trimmed", "", "  x  ", "export FOO=x\n");
+        row("an empty new value counts as unchanged", "x=1", "", "x=1");
+        row("a space calls for quotes", "", "a b", "export FOO=\"a b\"\n");
+        row("a tab calls for no quotes", "", "a\tb", "export FOO=a\tb\n");
+        row("double quotes get backslashes", "", "\"x y\"", "export FOO=\"\\\"x y\\\"\"\n");
     }
-    void saves()
+    void writesTheAssignment()
     {
-        Sandbox sandbox;
-        QFETCH(QString, setup);
-        QFETCH(QString, edit);
-        QFETCH(QByteArray, profileBefore);
-        QFETCH(QByteArray, localBefore);
-        Sandbox::setUserEnvironment(setup.split(' ').filter("="));
-        if (setup.contains("link"))
-            QVERIFY(QFile::link(Sandbox::home() + "/profile.real", profile()));
-        Sandbox::writeFile(profile(), profileBefore);
-        if (!localBefore.isNull())
-            Sandbox::writeFile(local(), localBefore);
-        QDir::setCurrent(Sandbox::system("/tmp")); // where a file named "System" would go
+        QFETCH(QByteArray, before);
+        QFETCH(QString, value);
+        Sandbox::writeFile(bashrc(), before);
         EveModel model;
-        if (setup.contains("block"))
+        change(model, "FOO", value);
+        QVERIFY(model.save());
+        QTEST(Sandbox::readFile(bashrc()), "after");
+        QCOMPARE(cellOf(model, "FOO", EveModel::ValueColumn), value);
+    }
+
+    void choosesTheFile_data()
+    {
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<QString>("scope");
+        QTest::addColumn<bool>("inProfile"); // /etc/profile exports the variable
+        QTest::addColumn<bool>("profileBlocked");
+        QTest::addColumn<QString>("written");
+        const auto row = [](const char *name, const char *login, const char *scope, bool inProfile,
+                            bool profileBlocked, const QString &written) {
+            QTest::newRow(name) << login << scope << inProfile << profileBlocked << written;
+        };
+        const QString user = bashrc(), system = Sandbox::system("/etc/bash.bashrc");
+        row("a user's new variable goes to the user's file", "tester", "local", false, false, user);
+        row("a user's global variable goes to the user's file", "tester", "global", false, false,
+            user);
+        row("root's global variable goes to the shell's system file", "root", "global", false,
+            false, system);
+        row("an exported variable goes back to its file", "tester", "local", true, false,
+            profile());
+        row("root's exported global variable goes back to its file", "root", "global", true, false,
+            profile());
+        row("a variable whose file cannot be opened goes to the user's file", "tester", "local",
+            true, true, user);
+    }
+    void choosesTheFile()
+    {
+        QFETCH(QString, login);
+        QFETCH(QString, scope);
+        QFETCH(bool, inProfile);
+        QFETCH(bool, profileBlocked);
+        QFETCH(QString, written);
+        Sandbox::writeFile(profile(), inProfile ? "export FOO=0\n" : "");
+        Sandbox::setUserEnvironment({"LOGNAME=" + login, "FOO=0"});
+        EveModel model;
+        if (profileBlocked)
             Sandbox::blockPath(profile());
-        const QStringList files{local(), profile(), global()};
+        const QStringList files{bashrc(), profile(), Sandbox::system("/etc/bash.bashrc")};
         QByteArrayList before;
         for (const QString &file : files)
             before << Sandbox::readFile(file);
-        if (edit.startsWith('-'))
-            QVERIFY(model.removeRows(rowOf(model, edit.mid(1)), 1));
-        else if (!edit.isEmpty())
-            change(model, edit.section('=', 0, 0), edit.section('=', 1),
-                   setup.contains("global") ? "global" : "local");
-        ModalAnswerer answerer({"OK"});
+        change(model, "FOO", "1", scope);
         QVERIFY(model.save());
-        QFETCH(QString, target);
-        QFETCH(QByteArray, expected);
         for (int i = 0; i < files.size(); ++i)
-            QCOMPARE(Sandbox::readFile(files[i]), files[i] == target ? expected : before[i]);
-        QCOMPARE(QFileInfo(profile()).isSymLink(), setup.contains("link"));
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList());
-        QTEST(boxes(answerer), "warnings");
+            QCOMPARE(Sandbox::readFile(files[i]),
+                     files[i] == written ? QByteArray("export FOO=1\n") : before[i]);
     }
 
-    void failure()
+    void storesDescriptionAndMarkOfChangedRowsOnly()
     {
-        Sandbox sandbox;
+        EveModel model;
+        change(model, "FOO", "1", "local", "mine");
+        QVERIFY(model.save());
+        QSettings settings;
+        QCOMPARE(settings.allKeys(),
+                 QStringList({"variables/FOO/description", "variables/FOO/vip"}));
+        QCOMPARE(settings.value("variables/FOO/description").toString(), "mine");
+    }
+
+    void clearsChangeMarksAndPendingDeletions()
+    {
+        Sandbox::writeFile(bashrc(), "export GONE=1\n");
+        Sandbox::setUserEnvironment({"EDITOR=vim", "GONE=1"});
+        EveModel model;
+        change(model, "EDITOR", "nano");
+        change(model, "FOO", "1");
+        model.removeRows(rowOf(model, "GONE"), 1);
+        QVERIFY(model.save());
+        for (int row = 0; row < model.rowCount(); ++row)
+            QCOMPARE(model.index(row, EveModel::PreviousColumn).data().toString(), "");
+        QVERIFY(model.deletedRows.isEmpty());
+
+        Sandbox::writeFile(bashrc(), "export GONE=2\nexport FOO=2\n");
+        QVERIFY(model.save());
+        QCOMPARE(Sandbox::readFile(bashrc()), "export GONE=2\nexport FOO=2\n");
+    }
+
+    void blanksTheExportOfADeletedVariable_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        const auto row = [](const char *name, const char *before, const char *after) {
+            QTest::newRow(name) << QByteArray(before) << QByteArray(after);
+        };
+        row("the only line becomes a space", "export FOO=1", " \n");
+        row("text before export stays", "cd; export FOO=1 # note\n", "cd;  \n");
+        row("text between export and the name is blanked too", "export FOO=1\nexport A=1 FOO=2\n",
+            " \n \n");
+        row("a longer name ending alike is blanked too", "export FOO=1\nexport MYFOO=2\n",
+            " \n \n");
+        row("an assignment without export stays", "export FOO=1\nFOO=2\n", " \nFOO=2\n");
+        row("other lines keep their bytes", "# \xe9\nexport FOO=1\n", "# \xe9\n \n");
+    }
+    void blanksTheExportOfADeletedVariable()
+    {
+        QFETCH(QByteArray, before);
+        Sandbox::writeFile(bashrc(), before);
         Sandbox::setUserEnvironment({"FOO=1"});
+        EveModel model;
+        model.removeRows(rowOf(model, "FOO"), 1);
+        QVERIFY(model.save());
+        QTEST(Sandbox::readFile(bashrc()), "after");
+    }
+
+    void deletingAnEnvironmentOnlyVariableTouchesNoFile()
+    {
+        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        EveModel model;
+        model.removeRows(rowOf(model, "EDITOR"), 1);
+        Sandbox::blockPath(bashrc());               // any write there would fail with a message
+        const QString before = QDir::currentPath(); // where a file named after the origin would go
+        QDir::setCurrent(Sandbox::home());
+        QVERIFY(model.save());
+        QDir::setCurrent(before);
+        QVERIFY(!QFileInfo::exists(Sandbox::home() + "/System"));
+    }
+
+    void deletionFromAnUnopenableFileIsSkipped()
+    {
         Sandbox::writeFile(profile(), "export FOO=1\n");
+        Sandbox::setUserEnvironment({"FOO=1"});
+        EveModel model;
+        model.removeRows(rowOf(model, "FOO"), 1);
+        Sandbox::blockPath(profile());
+        answerer->addAnswer("OK");
+        QVERIFY(model.save());
+        QCOMPARE(answerer->seen.value(0).title, "Warning!");
+        QCOMPARE(answerer->seen.value(0).text,
+                 "Couldn't open file " + profile() + " for deleting variable FOO");
+    }
+
+    void unopenableFileStopsTheSave()
+    {
+        Sandbox::writeFile(profile(), "export FOO=1\n");
+        Sandbox::setUserEnvironment({"FOO=1"});
         EveModel model;
         model.removeRows(rowOf(model, "SHELL"), 1);
-        change(model, "FOO", "2", "local", "d");
+        change(model, "FOO", "2", "local", "stored first");
         Sandbox::blockPath(profile());
-        Sandbox::blockPath(local());
-        ModalAnswerer answerer({"OK"});
+        Sandbox::blockPath(bashrc());
+        answerer->addAnswer("OK");
         QVERIFY(!model.save());
-        QCOMPARE(boxes(answerer),
-                 "Warning!: Couldn't open file " + local() + " for saving variable FOO [OK]\n");
-        QCOMPARE(model.index(rowOf(model, "FOO"), EveModel::PreviousColumn).data().toString(), "1");
+        QCOMPARE(answerer->seen.value(0).title, "Warning!");
+        QCOMPARE(answerer->seen.value(0).text,
+                 "Couldn't open file " + bashrc() + " for saving variable FOO");
+        QCOMPARE(cellOf(model, "FOO", EveModel::PreviousColumn), "1");
         QCOMPARE(model.deletedRows.size(), 1);
-        QSettings s; // written first, so kept; none for unchanged rows
-        QCOMPARE(s.allKeys().join(' ') + '=' + s.value("variables/FOO/description").toString(),
-                 "variables/FOO/description variables/FOO/vip=d");
+        QCOMPARE(QSettings().value("variables/FOO/description").toString(), "stored first");
     }
 };
 

@@ -31,13 +31,13 @@ class TestSingleApplication : public QObject
 {
     Q_OBJECT
 private slots:
-    void secondInstance_data()
+    void secondStartHandsItsMessageToTheFirst_data()
     {
         QTest::addColumn<QString>("message");
-        QTest::newRow("raise") << "raise";
-        QTest::newRow("1 MiB, in pieces") << QString(1 << 20, 'x');
+        QTest::addRow("the raise request") << "raise";
+        QTest::addRow("a message of 1 MiB, which comes in pieces") << QString(1 << 20, 'x');
     }
-    void secondInstance()
+    void secondStartHandsItsMessageToTheFirst()
     {
         QFETCH(QString, message);
         auto *app = static_cast<QtSingleApplication *>(qApp);
@@ -58,7 +58,7 @@ private slots:
         QVERIFY(!window.isMinimized());
         QTRY_COMPARE(QApplication::activeWindow(), &window);
     }
-    void killedFirstInstanceIsReplaced()
+    void firstInstanceKilledIsReplacedByTheNextStart()
     {
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Sandbox::home())); // children apart from us
         QProcess first, next, sender;

@@ -1,88 +1,180 @@
 #include "eve.h"
 #include "evemodel.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 #include "ueditor.h"
 
-#include <QtTest>
+#include <QPushButton>
 
-class TestUEditor : public QObject
+class TestUEditor : public SandboxTest
 {
     Q_OBJECT
 
-    // On: name editor, /etc box; checked: /etc, vip box; on: value editor, OK; then the texts.
-    static QString states(uEditor &d)
+    QScopedPointer<Eve> window;
+
+    // The main window with the variable V current, as the edit command finds it.
+    void openWindow(const QString &scope = "local", const QString &vip = "",
+                    const QString &login = "tester")
     {
-        QString s;
-        for (bool b : {d.variableEdit->isEnabled(), d.checkBox->isEnabled(),
-                       d.checkBox->isChecked(), d.vipCheck->isChecked(), d.valueEdit->isEnabled(),
-                       d.buttonBox->buttons().first()->isEnabled()})
-            s += b ? '1' : '0';
-        return s + ' ' + d.variableEdit->text() + '|' + d.valueEdit->toPlainText() + '|' +
-               d.descriptEdit->toPlainText();
+        Sandbox::setUserEnvironment({"LOGNAME=" + login, "V=1"});
+        window.reset(new Eve);
+        EveModel *model = window->eveModel();
+        const QModelIndex row = model->index(rowOf(*model, "V"), 0);
+        model->setData(row, "V", "1", "note", scope, vip, "1", Qt::EditRole);
+        window->tableView->setCurrentIndex(row);
+    }
+    static bool okEnabled(const uEditor &editor)
+    {
+        return editor.buttonBox->button(QDialogButtonBox::Ok)->isEnabled();
     }
 
 private slots:
-    // "login scope-or-new vip value|name|description|vip-box", '<' erasing, ' ' clicking;
-    // states at opening, whether Enter and Return accept, states after.
-    void dialog_data()
+    void cleanup()
     {
-        QTest::addColumn<QString>("result");
-        QTest::newRow("tester new - |FOO|") << "100010 || -- 100010 FOO||";
-        QTest::newRow("tester new - bar||") << "100010 || -- 100010 |bar|";
-        QTest::newRow("root new - bar|FOO|") << "110010 || ++ 110011 FOO|bar|";
-        QTest::newRow("tester new - bar|FOO<<<|") << "100010 || -- 100010 |bar|";
-        QTest::newRow("tester new - ||note") << "100010 || -- 100010 ||note";
-        for (const char *n : {"PATH2", "my-var", "a_b", "^", "`", "["})
-            QTest::addRow("tester new - v|%s|", n) << QString("100010 || ++ 100011 %1|v|").arg(n);
-        for (const char *bad : {"a b", "a.b", "a$b", "a=b"})
-            QTest::addRow("tester new - v|%s|", bad) << "100010 || ++ 100011 ab|v|";
-        QTest::newRow("tester local - x||") << "000010 V|1|d ++ 000011 V|x1|d";
-        QTest::newRow("tester global - ||x") << "001010 V|1|d ++ 001011 V|1|xd";
-        QTest::newRow("root global true ||| ") << "011100 V|1|d ++ 011011 V|1|d";
-    }
-    void dialog()
-    {
-        Sandbox sandbox;
-        QStringList w = QString(QTest::currentDataTag()).split(' ');
-        const QStringList typed = w.mid(3).join(' ').replace('<', '\b').split('|');
-        Sandbox::setUserEnvironment({"LOGNAME=" + w[0], "V=1"});
-        Eve window;
-        EveModel *m = window.eveModel();
-        const QModelIndex row = m->match(m->index(0, 0), Qt::DisplayRole, "V").value(0);
-        m->setData(row, "V", "1", "d", w[1], w[2].remove('-'), "", Qt::EditRole);
-        window.tableView->setCurrentIndex(row);
-        QScopedPointer<uEditor> d(w[1] == "new" ? new uEditor(&window, 0) : new uEditor(&window));
-        QString result = states(*d) + ' ';
-        const QWidgetList editors{d->valueEdit, d->variableEdit, d->descriptEdit, d->vipCheck};
-        for (int i = 0; i < typed.size(); ++i)
-            QTest::keyClicks(editors[i], typed[i]);
-        for (Qt::Key key : {Qt::Key_Enter, Qt::Key_Return}) {
-            d->setResult(0);
-            QTest::keyClick(d->valueEdit, key); // never a line break
-            result += d->result() == QDialog::Accepted ? '+' : '-';
-        }
-        QTEST(result + ' ' + states(*d), "result");
+        window.reset();
+        SandboxTest::cleanup();
     }
 
-    void formAndSize()
+    void newVariableNeedsNameAndValue_data()
     {
-        Sandbox sandbox;
-        Eve window;
-        QScopedPointer<uEditor> d(new uEditor(&window, 0));
-        QCOMPARE(d->size(), QSize(400, 400));
-        QStringList form{d->windowTitle(), uEditor(&window).windowTitle()};
-        for (QLabel *label : {d->label, d->label_2, d->descript_label})
-            form << label->text() + '>' + label->buddy()->objectName();
-        for (QWidget *x :
-             QWidgetList{d->variableEdit, d->valueEdit, d->descriptEdit, d->vipCheck, d->checkBox})
-            form << x->property("placeholderText").toString() + x->property("text").toString();
-        QCOMPARE(form.join('|'), "Create new variable|Edit variable|Variable>variableEdit|Value>"
-                                 "valueEdit|Description>valueEdit|Enter new variable's name "
-                                 "here...|Enter new variable's value here...|Enter comments "
-                                 "here...|Critical system variable|Save in system directory /etc/");
-        d->resize(300, 200);
-        d.reset();
-        QCOMPARE(uEditor(&window).size(), QSize(300, 200));
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<bool>("okEnabled");
+        const auto row = [](const char *name, const char *variable, const char *value,
+                            const char *description, bool ok) {
+            QTest::newRow(name) << variable << value << description << ok;
+        };
+        row("a name alone", "FOO", "", "", false);
+        row("a value alone", "", "bar", "", false);
+        row("a description alone", "", "", "note", false);
+        row("a name and a value", "FOO", "bar", "", true);
+        row("a value and an erased name", "FOO\b\b\b", "bar", "", false);
+    }
+    void newVariableNeedsNameAndValue()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QFETCH(QString, description);
+        openWindow();
+        uEditor editor(window.data(), 0);
+        QTest::keyClicks(editor.valueEdit, value);
+        QTest::keyClicks(editor.variableEdit, name);
+        QTest::keyClicks(editor.descriptEdit, description);
+        QTEST(okEnabled(editor), "okEnabled");
+    }
+
+    void nameTakesOnlyNameCharacters_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"PATH2", "my-var", "a_b", "x^", "x`"})
+            QTest::addRow("%s is taken", name) << name << name;
+        for (const char *name : {"a b", "a.b", "a$b", "a=b"})
+            QTest::addRow("%s is refused", name) << name << "ab";
+    }
+    void nameTakesOnlyNameCharacters()
+    {
+        QFETCH(QString, typed);
+        openWindow();
+        uEditor editor(window.data(), 0);
+        QTest::keyClicks(editor.variableEdit, typed);
+        QTEST(editor.variableEdit->text(), "name");
+    }
+
+    void editDialogShowsTheCurrentRow()
+    {
+        openWindow("global");
+        uEditor editor(window.data());
+        QCOMPARE(editor.variableEdit->text(), "V");
+        QCOMPARE(editor.valueEdit->toPlainText(), "1");
+        QCOMPARE(editor.descriptEdit->toPlainText(), "note");
+        QVERIFY(editor.checkBox->isChecked());
+        QVERIFY(!editor.vipCheck->isChecked());
+        QVERIFY2(!editor.variableEdit->isEnabled(), "the name cannot be changed");
+        QVERIFY2(!okEnabled(editor), "OK waits for a change");
+    }
+
+    void editDialogOkFollowsAnyChange()
+    {
+        openWindow();
+        uEditor value(window.data()), description(window.data()), critical(window.data());
+        value.valueEdit->insertPlainText("2");
+        description.descriptEdit->insertPlainText("!");
+        critical.vipCheck->click();
+        QVERIFY(okEnabled(value) && okEnabled(description) && okEnabled(critical));
+    }
+
+    void criticalBoxLocksTheValue_data()
+    {
+        QTest::addColumn<bool>("newVariable");
+        QTest::addRow("of a critical variable") << false;
+        QTest::addRow("of a new variable") << true;
+    }
+    void criticalBoxLocksTheValue()
+    {
+        QFETCH(bool, newVariable);
+        openWindow("local", "true");
+        QScopedPointer<uEditor> editor(newVariable ? new uEditor(window.data(), 0)
+                                                   : new uEditor(window.data()));
+        if (newVariable)
+            editor->vipCheck->click();
+        QVERIFY(editor->vipCheck->isChecked());
+        QVERIFY(!editor->valueEdit->isEnabled());
+        editor->vipCheck->click();
+        QVERIFY(editor->valueEdit->isEnabled());
+        QCOMPARE(okEnabled(*editor), !newVariable);
+    }
+
+    void enterInTheValueClicksOk_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("okEnabled");
+        QTest::addRow("Return with OK enabled") << int(Qt::Key_Return) << true;
+        QTest::addRow("Enter with OK enabled") << int(Qt::Key_Enter) << true;
+        QTest::addRow("Return with OK disabled") << int(Qt::Key_Return) << false;
+    }
+    void enterInTheValueClicksOk()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, okEnabled);
+        openWindow();
+        uEditor editor(window.data());
+        editor.buttonBox->button(QDialogButtonBox::Ok)->setEnabled(okEnabled);
+        QSignalSpy accepted(&editor, &QDialog::accepted);
+        QTest::keyClick(editor.valueEdit, Qt::Key(key));
+        QCOMPARE(accepted.count(), okEnabled ? 1 : 0);
+        QCOMPARE(editor.valueEdit->toPlainText(), "1");
+    }
+
+    void systemBoxIsForRootOnly_data()
+    {
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<bool>("newVariable");
+        QTest::addRow("a user's new variable") << "tester" << true;
+        QTest::addRow("a user's global variable") << "tester" << false;
+        QTest::addRow("root's new variable") << "root" << true;
+        QTest::addRow("root's global variable") << "root" << false;
+    }
+    void systemBoxIsForRootOnly()
+    {
+        QFETCH(QString, login);
+        QFETCH(bool, newVariable);
+        openWindow("global", "", login);
+        QScopedPointer<uEditor> editor(newVariable ? new uEditor(window.data(), 0)
+                                                   : new uEditor(window.data()));
+        QCOMPARE(editor->checkBox->isEnabled(), login == "root");
+        QCOMPARE(editor->checkBox->isChecked(), !newVariable);
+    }
+
+    void remembersItsSize()
+    {
+        openWindow();
+        QScopedPointer<uEditor> editor(new uEditor(window.data(), 0));
+        QCOMPARE(editor->size(), QSize(400, 400));
+        editor->resize(300, 200);
+        editor.reset();
+        QCOMPARE(uEditor(window.data()).size(), QSize(300, 200));
     }
 };
 

@@ -48,5 +48,12 @@ if [ "$mode" = run ]; then
     exec build/orv-admin-env
 fi
 
-cd build
+(cd build && ctest --output-on-failure --timeout 300)
+
+# The same tests once more under AddressSanitizer (leaks included) and
+# UndefinedBehaviorSanitizer, in a build folder of their own.
+cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=RelWithDebInfo -DORV_ADMIN_ENV_WERROR=$werror \
+    -DORV_ADMIN_ENV_SANITIZE=ON -DORV_ADMIN_ENV_BUILD_BENCH=OFF
+cmake --build build-sanitize --parallel "$(nproc)"
+cd build-sanitize
 exec ctest --output-on-failure --timeout 300

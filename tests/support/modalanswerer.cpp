@@ -36,8 +36,17 @@ bool ModalAnswerer::clickButton(QWidget *widget, const QString &text)
 void ModalAnswerer::poll()
 {
     QWidget *widget = QApplication::activeModalWidget();
-    if (!widget || actions.isEmpty() || !widget->isVisible() || handled.contains(widget))
+    if (!widget || !widget->isVisible() || handled.contains(widget))
         return;
+    if (actions.isEmpty()) {
+        if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && rejectUnanswered) {
+            const auto *box = qobject_cast<QMessageBox *>(widget);
+            unanswered << widget->windowTitle() + QStringLiteral(": ") +
+                              (box ? box->text() : QString());
+            dialog->done(QDialog::Rejected);
+        }
+        return;
+    }
     handled.append(widget);
     Seen record{QLatin1String(widget->metaObject()->className()), widget->windowTitle(), {}, {}};
     if (auto *box = qobject_cast<QMessageBox *>(widget))

@@ -36,6 +36,12 @@ public:
     QList<Seen> seen;
     int pending() const { return actions.size(); }
 
+    // When set, a modal widget that comes with no answer left is rejected and
+    // listed in `unanswered` ("title: text"), so that a test fails instead of
+    // waiting on it.
+    bool rejectUnanswered = false;
+    QStringList unanswered;
+
     // Clicks the named button of a message box or dialog button box.
     static bool clickButton(QWidget *widget, const QString &text);
 

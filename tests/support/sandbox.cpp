@@ -52,11 +52,18 @@ Sandbox::~Sandbox()
     QSettings().clear();
 }
 
+// putenv() keeps the pointers it is given: the strings of the current
+// environment live here, reachable until the process ends.
+static QList<QByteArray> *environmentStrings = new QList<QByteArray>;
+
 void Sandbox::setEnvironment(const QStringList &entries)
 {
     clearenv();
-    for (const QString &entry : entries)
-        putenv(strdup(entry.toLocal8Bit().constData())); // putenv keeps the pointer
+    environmentStrings->clear(); // no longer in the environment
+    for (const QString &entry : entries) {
+        environmentStrings->append(entry.toLocal8Bit());
+        putenv(environmentStrings->last().data());
+    }
 }
 
 void Sandbox::setUserEnvironment(const QStringList &extra)
