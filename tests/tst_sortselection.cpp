@@ -1,38 +1,24 @@
 #include "eve.h"
 #include "evemodel.h"
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 #include "ueditor.h"
 
-#include <QtTest>
-
-namespace {
-
-int rowOf(const EveModel &model, const QString &name)
-{
-    return model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly)
-        .value(0)
-        .row();
-}
-
-QString nameAt(const EveModel &model, int row)
+static QString nameAt(const EveModel &model, int row)
 {
     return model.index(row, EveModel::VariableColumn).data().toString();
 }
 
-} // namespace
-
-class TestSortSelection : public QObject
+class TestSortSelection : public SandboxTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        sandbox.reset(new Sandbox);
+        SandboxTest::init();
         Sandbox::setUserEnvironment({"BBB=2", "CCC=3", "DDD=4"});
     }
-    void cleanup() { sandbox.reset(); }
 
     void persistentIndexesMoveWithTheirRows_data()
     {
@@ -61,8 +47,7 @@ private slots:
         Eve window;
         EveModel &model = *window.eveModel();
         window.tableView->selectRow(rowOf(model, "CCC"));
-        ModalAnswerer answerer;
-        answerer.addAction([](QWidget *dialog) {
+        answerer->addAction([](QWidget *dialog) {
             auto *editor = qobject_cast<uEditor *>(dialog);
             QTest::keyClicks(editor->variableEdit, "AAA");
             QTest::keyClicks(editor->valueEdit, "1");
@@ -76,7 +61,6 @@ private slots:
         const QModelIndexList selected = window.tableView->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
         QCOMPARE(nameAt(model, selected.first().row()), "CCC");
-        QCOMPARE(answerer.pending(), 0);
     }
 
     void deleteAfterAReSortRemovesTheHighlightedVariable()
@@ -86,17 +70,13 @@ private slots:
         window.tableView->selectRow(rowOf(model, "CCC"));
         model.insertRows(model.rowCount(), 1, {"AAA", "1", "", "local"});
         model.sort(EveModel::VariableColumn, Qt::DescendingOrder); // AAA moves to the top
-        ModalAnswerer answerer({"Yes"});
+        answerer->addAnswer("Yes");
 
         window.actionDelete->trigger();
 
         QCOMPARE(rowOf(model, "CCC"), -1);
         QVERIFY(rowOf(model, "BBB") >= 0);
-        QCOMPARE(answerer.pending(), 0);
     }
-
-private:
-    QScopedPointer<Sandbox> sandbox;
 };
 
 ORV_SANDBOX_TEST_MAIN(TestSortSelection)
