@@ -11,19 +11,15 @@ class TestModelSort : public QObject
     Q_OBJECT
 
 private slots:
-    // Rows are ordered exactly as a stable sort by QString::compare with
-    // Qt::CaseInsensitive orders them: ascending puts Z before A, descending A
-    // before Z, and texts that compare equal (as "ab" and "AB") keep their order.
+    // As a stable sort by QString::compare with Qt::CaseInsensitive: ascending
+    // puts Z before A, descending A before Z, equal texts keep their order.
     void sortsAsCaseInsensitiveCompare()
     {
         Sandbox sandbox;
-        // Case pairs, the ASCII characters between the upper and the lower case
-        // letters, letters beyond ASCII, the Kelvin sign (which folds to k) and a
-        // surrogate pair.
-        const QStringList pieces{"a",          "A",      "k",      "K",      "z",      "Z",
-                                 "0",          "_",      "[",      "^",      "`",      "~",
-                                 "\u00e9",     "\u00c9", "\u00df", "\u0416", "\u0436", "\u212a",
-                                 "\U0001D400", "",       ""};
+        // Case pairs, ASCII between the cases, the Kelvin sign (k), a surrogate pair.
+        const QStringList pieces{"a",      "A",      "k",      "K",      "z",      "Z",
+                                 "0",      "_",      "[",      "^",      "`",      "\u00e9",
+                                 "\u00c9", "\u00df", "\u0416", "\u0436", "\u212a", "\U0001D400"};
         QRandomGenerator random(4711);
         for (int round = 0; round < 10; ++round) {
             EveModel model;
@@ -39,14 +35,14 @@ private slots:
                     names << model.index(row, EveModel::VariableColumn).data().toString();
                 return names;
             };
-            const Qt::SortOrder order = round % 2 ? Qt::AscendingOrder : Qt::DescendingOrder;
-            const int sign = order == Qt::AscendingOrder ? 1 : -1;
+            const int sign = round % 2 ? 1 : -1;
             QStringList expected = names();
             std::stable_sort(expected.begin(), expected.end(),
                              [&](const QString &a, const QString &b) {
                                  return sign * QString::compare(a, b, Qt::CaseInsensitive) > 0;
                              });
-            model.sort(EveModel::VariableColumn, order);
+            model.sort(EveModel::VariableColumn,
+                       round % 2 ? Qt::AscendingOrder : Qt::DescendingOrder);
             QCOMPARE(names(), expected);
         }
     }

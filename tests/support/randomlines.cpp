@@ -22,9 +22,9 @@ const QStringList others =
     << QString(QChar(0)) << QString(QChar(0xd800)) << QString(QChar(0xdc00));
 const QStringList equalsSigns{"=", "=", "=", "==", "= "};
 
-const QByteArrayList brokenUtf8{"\xff",         "\xc3",     "\xe2\x82",         "\xc1\xa5",
-                                "\xed\xa0\x80", "\x80",     "\xe0\x80\xaf",     "\xf4\x90\x80\x80",
-                                "\xf0\x9f\x98", "\xc3\xa9", QByteArray(1, '\0')};
+const QByteArrayList brokenUtf8{
+    "\xff", "\xc3",         "\xe2\x82", "\xc1\xa5",         "\xed\xa0\x80",
+    "\x80", "\xe0\x80\xaf", "\xf0\x9f", "\xf4\x90\x80\x80", QByteArray(1, 0)};
 const QByteArrayList lineEnds{"\n", "\n", "\n", "\r\n", "\r", "\n\n", "\r\r\n"};
 
 } // namespace

@@ -22,6 +22,5 @@ private:
     QString pick(const QStringList &from) { return from.at(below(from.size())); }
     QByteArray pick(const QByteArrayList &from) { return from.at(below(from.size())); }
     QString any();
-
     QRandomGenerator random;
 };
