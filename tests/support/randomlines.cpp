@@ -2,7 +2,6 @@
 
 namespace {
 
-// "export" and its near misses.
 const QStringList keywords{"export",  "exported",     "xexport",      "_export",
                            "Export",  "expor",        "\u00e9export", "export\u0301",
                            "1export", "export\u00e9", "-export"};
