@@ -1,14 +1,10 @@
 #pragma once
 
-#include <QByteArray>
 #include <QRandomGenerator>
-#include <QString>
+#include <QStringList>
 
-// Random lines built from the pieces that decide how the read grammar and
-// the environment split match: "export" and its near misses, every kind of
-// white space, word characters from ASCII to combining marks and surrogate
-// pairs, "=", punctuation, and for file bytes broken UTF-8 and line ends.
-// The same start value gives the same lines, so a failure can be repeated.
+// Random lines built from the pieces that decide how the read grammar and the
+// split of environment entries match. The same start value gives the same lines.
 class RandomLines
 {
 public:
@@ -16,16 +12,15 @@ public:
         : random(startValue)
     {}
 
-    // One line of text that may or may not hold "export NAME=VALUE".
+    // One line that may or may not hold "export NAME=VALUE".
     QString exportLine();
-    // The bytes of a small start-up file: such lines in UTF-8 with broken
-    // sequences, NUL bytes, "\r" and "\n" between them.
+    // A small start-up file: such lines in UTF-8, broken UTF-8, NUL, "\r" and "\n".
     QByteArray fileBytes();
-    // One NAME=VALUE entry of a process environment, or something near it.
-    QString environmentEntry();
 
 private:
     int below(int bound) { return int(random.bounded(quint32(bound))); }
-
+    QString pick(const QStringList &from) { return from.at(below(from.size())); }
+    QByteArray pick(const QByteArrayList &from) { return from.at(below(from.size())); }
+    QString any();
     QRandomGenerator random;
 };
