@@ -1,7 +1,6 @@
 #include "eve.h"
 #include "evemodel.h"
 #include "filterbar.h"
-#include "modalanswerer.h"
 #include "rowfilter.h"
 #include "sandbox.h"
 
@@ -14,23 +13,20 @@ class TestRowFilter : public QObject
     Q_OBJECT
 
     // The names of the rows the table shows, top to bottom.
-    static QStringList visibleNames(const Eve &window)
+    QStringList visibleNames() const
     {
         QStringList names;
-        const EveModel *model = window.eveModel();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            if (!window.tableView->isRowHidden(row))
-                names << model->index(row, EveModel::VariableColumn).data().toString();
+        for (int row = 0; row < model()->rowCount(); ++row) {
+            if (!window->tableView->isRowHidden(row))
+                names << model()->index(row, EveModel::VariableColumn).data().toString();
         }
         return names;
     }
-    static int rowOf(const Eve &window, const QString &name)
+    int rowOf(const QString &name) const
     {
-        const EveModel *model = window.eveModel();
-        return model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly)
-            .value(0)
-            .row();
+        return model()->match(model()->index(0, 0), Qt::DisplayRole, name).value(0).row();
     }
+    EveModel *model() const { return window->eveModel(); }
     FilterBar *bar() const { return window->findChild<FilterBar *>(); }
     void type(const QString &text) { bar()->field()->setText(text); }
 
@@ -51,145 +47,68 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("matches");
-        QTest::addRow("a part of the name") << "AGE" << true;
-        QTest::addRow("a part of the value") << "/usr/b" << true;
-        QTest::addRow("a part of the description") << "pager" << true;
-        QTest::addRow("the name in other letter case") << "pager" << true;
-        QTest::addRow("the value in other letter case") << "/USR/BIN" << true;
-        QTest::addRow("an empty text") << "" << true;
+        QTest::addRow("the name in other letter case") << "ager" << true;
+        QTest::addRow("the value in other letter case") << "/USR/b" << true;
+        QTest::addRow("the description in other letter case") << "LONG" << true;
         QTest::addRow("a text found in no column") << "xyz" << false;
-        QTest::addRow("parts of two columns together") << "PAGER/usr" << false;
     }
     void matchesByEachColumnIgnoringCase()
     {
         QFETCH(QString, text);
-        QTEST(RowFilter::matches("PAGER", "/usr/bin/less", "The pager of man", text), "matches");
+        QTEST(RowFilter::matches("PAGER", "/usr/bin/less", "Scrolls long texts", text), "matches");
     }
 
-    void typingHidesTheRowsThatDoNotMatch()
+    void hiddenRowsStayHiddenAfterAResortAndAReload()
     {
         type("vim");
+        model()->sort(0, Qt::AscendingOrder);
+        QCOMPARE(visibleNames(), QStringList({"VISUAL", "EDITOR"}));
 
-        QCOMPARE(visibleNames(*window), QStringList({"EDITOR", "VISUAL"}));
-        QVERIFY(bar()->countLabel()->isVisibleTo(window.get()));
-        QCOMPARE(bar()->countLabel()->text(), "2 of 7 variables");
-    }
-
-    void anEmptyFieldShowsEveryRowAndNoCount()
-    {
-        type("vim");
-        type("");
-
-        QCOMPARE(visibleNames(*window).size(), 7);
-        QVERIFY(!bar()->countLabel()->isVisibleTo(window.get()));
-    }
-
-    void hiddenRowsStayHiddenAfterAResort()
-    {
-        type("e");
-        const QStringList before = visibleNames(*window);
-        window->tableView->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
-        window->eveModel()->sort(0, Qt::AscendingOrder);
-
-        QStringList reversed(before.crbegin(), before.crend());
-        QCOMPARE(visibleNames(*window), reversed);
-    }
-
-    void hiddenRowsStayHiddenAfterAReload()
-    {
-        type("vim");
-        window->eveModel()->reload();
-
-        QCOMPARE(visibleNames(*window), QStringList({"EDITOR", "VISUAL"}));
-        QCOMPARE(bar()->countLabel()->text(), "2 of 7 variables");
+        model()->reload();
+        QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
     }
 
     void anAddedRowStaysVisibleUntilTheTextChanges()
     {
         type("vim");
-        EveModel *model = window->eveModel();
-        model->insertRows(model->rowCount(), 1, {"NEWVAR", "x", "", "local"});
-        model->sort(0, Qt::DescendingOrder);
+        model()->insertRows(model()->rowCount(), 1, {"NEWVAR", "x", "", "local"});
+        model()->sort(0, Qt::DescendingOrder);
 
-        QCOMPARE(visibleNames(*window), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
+        QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
         type("VIM");
-        QCOMPARE(visibleNames(*window), QStringList({"EDITOR", "VISUAL"}));
+        QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
     }
 
-    void anEditedRowStaysVisibleUntilTheTextChanges()
+    void commandsNeverActOnAHiddenRow()
     {
+        window->tableView->selectRow(rowOf("PAGER"));
         type("vim");
-        EveModel *model = window->eveModel();
-        model->setData(model->index(rowOf(*window, "EDITOR"), EveModel::ValueColumn), "nano");
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf("EDITOR"));
+        window->tableView->selectRow(rowOf("PAGER"));
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf("EDITOR"));
 
-        QCOMPARE(visibleNames(*window), QStringList({"EDITOR", "VISUAL"}));
-        type("VIM");
-        QCOMPARE(visibleNames(*window), QStringList({"VISUAL"}));
-    }
-
-    void aDeleteKeepsTheOtherRowsHidden()
-    {
-        type("vim");
-        window->eveModel()->removeRows(rowOf(*window, "EDITOR"), 1);
-
-        QCOMPARE(visibleNames(*window), QStringList({"VISUAL"}));
-        QCOMPARE(bar()->countLabel()->text(), "1 of 6 variables");
-    }
-
-    void theCurrentRowMovesToAVisibleOne()
-    {
-        window->tableView->selectRow(rowOf(*window, "PAGER"));
-        type("vim");
-
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window, "EDITOR"));
-    }
-
-    void selectingAHiddenRowSelectsTheFirstVisibleOne()
-    {
-        type("vim");
-        window->tableView->selectRow(rowOf(*window, "PAGER"));
-
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window, "EDITOR"));
-    }
-
-    void noVisibleRowLeavesNoCurrentRowAndNoEditing()
-    {
-        window->tableView->selectRow(rowOf(*window, "PAGER"));
         window->actionEdit->setEnabled(true);
-        window->actionDelete->setEnabled(true);
         type("no such text");
-
         QVERIFY(!window->tableView->currentIndex().isValid());
         QVERIFY(!window->actionEdit->isEnabled());
-        QVERIFY(!window->actionDelete->isEnabled());
-        QCOMPARE(bar()->countLabel()->text(), "0 of 7 variables");
     }
 
-    void ctrlFFocusesTheField()
+    void ctrlFThenTypingFiltersAndEscapeClears()
     {
         window->show();
         QApplication::setActiveWindow(window.get());
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        window->tableView->setFocus();
 
         QTest::keyClick(window->tableView, Qt::Key_F, Qt::ControlModifier);
-
         QVERIFY(bar()->field()->hasFocus());
-    }
-
-    void escapeClearsTheFieldAndReturnsToTheTable()
-    {
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        bar()->field()->setFocus();
         QTest::keyClicks(bar()->field(), "vim");
-        QCOMPARE(visibleNames(*window).size(), 2);
+        QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
+        QCOMPARE(bar()->countLabel()->text(), "2 of 7 variables");
+        QVERIFY(bar()->countLabel()->isVisibleTo(window.get()));
 
         QTest::keyClick(bar()->field(), Qt::Key_Escape);
-
-        QCOMPARE(bar()->field()->text(), QString());
-        QCOMPARE(visibleNames(*window).size(), 7);
+        QCOMPARE(visibleNames().size(), 7);
+        QVERIFY(!bar()->countLabel()->isVisibleTo(window.get()));
         QVERIFY(window->tableView->hasFocus());
     }
 

@@ -3,7 +3,6 @@
 #include "modalanswerer.h"
 #include "sandbox.h"
 #include "whereset.h"
-#include "wheresetcommand.h"
 #include "wheresetdialog.h"
 
 #include <QLabel>
@@ -11,8 +10,10 @@
 #include <QtTest>
 
 using Line = WhereSet::Line;
+using Session = std::optional<QString>;
 
 Q_DECLARE_METATYPE(QList<WhereSet::Line>)
+Q_DECLARE_METATYPE(std::optional<QString>)
 
 class TestWhereSet : public QObject
 {
@@ -20,256 +21,149 @@ class TestWhereSet : public QObject
 
     static QString home(const QString &path) { return Sandbox::home() + path; }
     static QString etc(const QString &path) { return Sandbox::system(path); }
-    // A path as a user reads it: "~/..." for the home, "/etc/..." for the system root.
-    static QString shown(const QString &path)
-    {
-        return WhereSet::displayPath(path, Sandbox::home()).replace(Sandbox::sysroot(), "");
-    }
-    // "file:number: text", as grep prints a match, and why the line does not count.
-    static QStringList shown(const QList<Line> &lines)
+    // The lines a bash login reads for `name`, as "file:number: text" the way grep prints them,
+    // with "~/..." for the home and "/etc/..." for the system root; the lists are the editor's.
+    static QStringList linesOf(const QString &name, const QStringList &systemFiles,
+                               const QStringList &userFiles)
     {
         QStringList texts;
-        for (const Line &line : lines) {
-            QString text = shown(line.path) + ":" +
-                           (line.readable ? QString::number(line.number) + ":" : QString()) + " " +
-                           line.text;
-            if (line.commented)
-                text += " (commented out)";
-            texts << text;
+        for (const WhereSet::File &file :
+             WhereSet::startupFiles(EveModel::Bash, Sandbox::home(), systemFiles, userFiles)) {
+            for (const Line &line : WhereSet::scanFile(file, name)) {
+                const QString path = WhereSet::displayPath(line.path, Sandbox::home())
+                                         .replace(Sandbox::sysroot(), "");
+                const QString number = line.readable ? QString::number(line.number) + ":" : "";
+                texts << path + ":" + number + " " + line.text +
+                             (line.commented ? " (commented out)" : "");
+            }
         }
         return texts;
     }
-    static QList<Line> scanAll(int shellKind, const QString &name,
-                               const QStringList &systemFiles = {},
-                               const QStringList &userFiles = {})
-    {
-        QList<Line> lines;
-        const auto files =
-            WhereSet::startupFiles(shellKind, Sandbox::home(), systemFiles, userFiles);
-        for (const WhereSet::File &file : files)
-            lines += WhereSet::scanFile(file, name);
-        return lines;
-    }
     static Line lineOf(const QString &path, const QString &value, bool commented = false)
     {
-        Line line;
-        line.path = path;
-        line.number = 1;
-        line.commented = commented;
-        line.hasValue = true;
-        line.value = value;
-        return line;
+        return Line{path, 1, "", true, commented, true, value};
     }
 
 private slots:
     void init() { sandbox.reset(new Sandbox); }
     void cleanup() { sandbox.reset(); }
 
-    void filesComeInLoginOrderEachOnce_data()
+    void findsEveryLineInLoginOrderAndSaysWhichFileCannotBeRead()
     {
-        QTest::addColumn<int>("shellKind");
-        QTest::addColumn<QStringList>("files");
-        const QStringList environment{"/etc/environment", "~/.pam_environment",
-                                      "~/.config/environment.d/10-a.conf",
-                                      "~/.config/environment.d/20-b.conf"};
-        QTest::addRow("bash") << int(EveModel::Bash)
-                              << environment +
-                                     QStringList{"/etc/profile",        "/etc/bash.bashrc",
-                                                 "/etc/profile.d/a.sh", "/etc/profile.d/b.sh",
-                                                 "/etc/extra",          "~/.bash_profile",
-                                                 "~/.bash_login",       "~/.profile",
-                                                 "~/.bashrc",           "~/.extra"};
-        QTest::addRow("a shell of the sh family")
-            << int(EveModel::Other)
-            << environment +
-                   QStringList{"/etc/profile", "/etc/profile.d/a.sh", "/etc/profile.d/b.sh",
-                               "/etc/extra",   "~/.profile",          "~/.bashrc",
-                               "~/.extra"};
-        QTest::addRow("csh") << int(EveModel::Csh)
-                             << environment +
-                                    QStringList{"/etc/csh.cshrc", "/etc/csh.login", "/etc/profile",
-                                                "/etc/extra",     "~/.tcshrc",      "~/.cshrc",
-                                                "~/.login",       "~/.bashrc",      "~/.extra"};
-    }
-    void filesComeInLoginOrderEachOnce()
-    {
-        QFETCH(int, shellKind);
-        for (const char *path :
-             {"/etc/environment", "/etc/profile", "/etc/bash.bashrc", "/etc/profile.d/b.sh",
-              "/etc/profile.d/a.sh", "/etc/profile.d/c.txt", "/etc/csh.cshrc", "/etc/csh.login",
-              "/etc/extra"})
-            Sandbox::writeFile(etc(path), "");
-        for (const char *path :
-             {"/.pam_environment", "/.config/environment.d/20-b.conf",
-              "/.config/environment.d/10-a.conf", "/.bash_profile", "/.bash_login", "/.profile",
-              "/.bashrc", "/.tcshrc", "/.cshrc", "/.login", "/.extra"})
-            Sandbox::writeFile(home(path), "");
+        Sandbox::writeFile(etc("/etc/environment"), "LANG=C\nPAGER=more\n");
+        Sandbox::writeFile(home("/.pam_environment"), "PAGER DEFAULT=less\n");
+        Sandbox::writeFile(home("/.config/environment.d/20-b.conf"), "PAGER=${HOME}/bin/pg\n");
+        Sandbox::writeFile(home("/.config/environment.d/10-a.conf"), "# PAGER=pg\n");
+        Sandbox::writeFile(etc("/etc/profile"), "PATH=/usr/bin\r\nexport PAGER\r\n");
+        Sandbox::writeFile(etc("/etc/bash.bashrc"), "PAGER=less\n");
+        Sandbox::writeFile(etc("/etc/profile.d/b.sh"), "export PAGER=b\n");
+        Sandbox::writeFile(etc("/etc/profile.d/a.sh"), "export PAGER=a\n");
+        Sandbox::writeFile(etc("/etc/profile.d/c.txt"), "export PAGER=c\n");
+        Sandbox::writeFile(etc("/etc/extra"), "export PAGER=extra\n");
+        Sandbox::writeFile(home("/.bash_profile"), "export PAGER=most # the best\n");
+        Sandbox::blockPath(home("/.bash_login"));
+        Sandbox::writeFile(home("/.profile"),
+                           "umask 022\n# export PAGER=less\nif [ -x /usr/bin/most ]; then\n"
+                           "    PAGER=most\nfi\nexport MYPAGER=x");
+        Sandbox::writeFile(home("/.bashrc"), "echo $PAGER\nexport PAGER=most\n");
+        Sandbox::writeFile(home("/.extra"), "PAGER=extra\n");
         // The editor's lists repeat known files and name a missing one.
         const QStringList systemFiles{etc("/etc/profile"), etc("/etc/extra")};
         const QStringList userFiles{home("/.bashrc"), home("/.extra"), home("/.missing")};
 
-        QStringList files;
-        for (const WhereSet::File &file :
-             WhereSet::startupFiles(shellKind, Sandbox::home(), systemFiles, userFiles))
-            files << shown(file.path);
-        QTEST(files, "files");
-    }
-
-    void linesOfEveryFormAreFoundInLoginOrder()
-    {
-        Sandbox::writeFile(etc("/etc/environment"), "LANG=C\nPAGER=more\n");
-        Sandbox::writeFile(home("/.config/environment.d/50-pager.conf"),
-                           "# the pager\nPAGER=${HOME}/bin/pg\n");
-        Sandbox::writeFile(home("/.pam_environment"), "PAGER DEFAULT=less\n");
-        Sandbox::writeFile(etc("/etc/profile"), "PATH=/usr/bin\r\nexport PAGER\r\n");
-        Sandbox::writeFile(home("/.profile"), "# export PAGER=less\nif [ -x /usr/bin/most ]; "
-                                              "then\n    PAGER=most\nfi\nexport MYPAGER=x");
-        Sandbox::writeFile(home("/.bashrc"), "echo $PAGER\nexport PAGER=most # the best\n");
-
-        QCOMPARE(shown(scanAll(EveModel::Bash, "PAGER")),
-                 QStringList({"/etc/environment:2: PAGER=more",
-                              "~/.pam_environment:1: PAGER DEFAULT=less",
-                              "~/.config/environment.d/50-pager.conf:2: PAGER=${HOME}/bin/pg",
-                              "/etc/profile:2: export PAGER",
-                              "~/.profile:1: # export PAGER=less (commented out)",
-                              "~/.profile:3:     PAGER=most",
-                              "~/.bashrc:2: export PAGER=most # the best"}));
-    }
-
-    void aFileThatCannotBeReadGetsALineOfItsOwn()
-    {
-        Sandbox::writeFile(home("/.bashrc"), "export PAGER=most\n");
-        Sandbox::blockPath(home("/.profile"));
-
-        QCOMPARE(shown(scanAll(EveModel::Bash, "PAGER")),
-                 QStringList({"~/.profile: cannot be read: it is not a regular file",
-                              "~/.bashrc:1: export PAGER=most"}));
+        QCOMPARE(linesOf("PAGER", systemFiles, userFiles),
+                 QStringList({
+                     "/etc/environment:2: PAGER=more",
+                     "~/.pam_environment:1: PAGER DEFAULT=less",
+                     "~/.config/environment.d/10-a.conf:1: # PAGER=pg (commented out)",
+                     "~/.config/environment.d/20-b.conf:1: PAGER=${HOME}/bin/pg",
+                     "/etc/profile:2: export PAGER",
+                     "/etc/bash.bashrc:1: PAGER=less",
+                     "/etc/profile.d/a.sh:1: export PAGER=a",
+                     "/etc/profile.d/b.sh:1: export PAGER=b",
+                     "/etc/extra:1: export PAGER=extra",
+                     "~/.bash_profile:1: export PAGER=most # the best",
+                     "~/.bash_login: cannot be read: it is not a regular file",
+                     "~/.profile:2: # export PAGER=less (commented out)",
+                     "~/.profile:4:     PAGER=most",
+                     "~/.bashrc:2: export PAGER=most",
+                     "~/.extra:1: PAGER=extra",
+                 }));
     }
 
     void theSentenceComparesTheLastAssignmentWithTheSession_data()
     {
         QTest::addColumn<QList<Line>>("lines");
-        QTest::addColumn<bool>("inSession");
-        QTest::addColumn<QString>("session");
+        QTest::addColumn<Session>("session");
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("sentence");
         const QString profile = home("/.profile"), bashrc = home("/.bashrc");
-        QTest::addRow("no file sets it") << QList<Line>() << true << "less"
-                                         << "less"
+        const Session less("less");
+        QTest::addRow("no file sets it") << QList<Line>() << less << "less"
                                          << "No start-up file that a login reads sets PAGER";
-        QTest::addRow("a commented-out line sets nothing")
-            << QList<Line>{lineOf(profile, "most", true)} << true << "less"
-            << "less"
-            << "No start-up file that a login reads sets PAGER";
-        QTest::addRow("the file has the session's value")
-            << QList<Line>{lineOf(profile, "less")} << true << "less"
-            << "less"
-            << "~/.profile sets `less`, the value this session has";
-        QTest::addRow("the file differs from the session")
-            << QList<Line>{lineOf(profile, "most")} << true << "less"
-            << "less"
-            << "~/.profile sets `most`; this session has `less`: log in again to use the file's "
-               "value";
-        QTest::addRow("the table holds the file's value, as after a save")
-            << QList<Line>{lineOf(profile, "most")} << true << "less"
-            << "most"
-            << "~/.profile sets `most`; this session has `less`: the saved value takes effect "
-               "at the next login";
-        QTest::addRow("the last live line decides")
+        QTest::addRow("the last line not commented out differs from the session")
             << QList<Line>{lineOf(profile, "less"), lineOf(bashrc, "most"),
                            lineOf(bashrc, "pg", true)}
-            << true << "less"
-            << "less"
+            << less << "less"
             << "~/.bashrc sets `most`; this session has `less`: log in again to use the file's "
                "value";
         QTest::addRow("the home folder is expanded before comparing")
-            << QList<Line>{lineOf(profile, "$HOME/bin/pg")} << true << home("/bin/pg") << "less"
+            << QList<Line>{lineOf(profile, "$HOME/bin/pg")} << Session(home("/bin/pg")) << "less"
             << "~/.profile sets `$HOME/bin/pg`, the value this session has";
-        QTest::addRow("a value built from other variables")
-            << QList<Line>{lineOf(profile, "$HOME/bin:$PATH")} << true << "/usr/bin"
-            << "/usr/bin"
-            << "~/.profile sets `$HOME/bin:$PATH`, which the shell works out at login; this "
-               "session has `/usr/bin`";
         QTest::addRow("the session lacks the variable")
-            << QList<Line>{lineOf(profile, "most")} << false << ""
-            << "less"
+            << QList<Line>{lineOf(profile, "most")} << Session() << "less"
             << "~/.profile sets `most`; this session does not have PAGER: log in again to use "
                "the file's value";
-        QTest::addRow("the session lacks a variable just saved")
-            << QList<Line>{lineOf(profile, "most")} << false << ""
-            << "most"
-            << "~/.profile sets `most`; this session does not have PAGER: the saved value "
-               "takes effect at the next login";
-        QTest::addRow("a system file is named in full")
-            << QList<Line>{lineOf("/etc/profile", "most")} << true << "less"
-            << "less"
-            << "/etc/profile sets `most`; this session has `less`: log in again to use the "
-               "file's value";
+        QTest::addRow("a value built from other variables")
+            << QList<Line>{lineOf(profile, "$HOME/bin:$PATH")} << Session("/usr/bin") << "less"
+            << "~/.profile sets `$HOME/bin:$PATH`, which the shell works out at login; this "
+               "session has `/usr/bin`";
     }
     void theSentenceComparesTheLastAssignmentWithTheSession()
     {
         QFETCH(QList<Line>, lines);
-        QFETCH(bool, inSession);
-        QFETCH(QString, session);
+        QFETCH(Session, session);
         QFETCH(QString, table);
-        const std::optional<QString> sessionValue =
-            inSession ? std::optional<QString>(session) : std::nullopt;
-        QTEST(WhereSet::explain(lines, "PAGER", sessionValue, table, Sandbox::home()), "sentence");
+        QTEST(WhereSet::explain(lines, "PAGER", session, table, Sandbox::home()), "sentence");
     }
 
-    void theCommandShowsTheLinesAndLeavesTheFilesAlone()
+    void ctrlIShowsTheLinesAndLeavesTheFilesAlone()
     {
         Sandbox::setUserEnvironment({"PAGER=less"});
         const QByteArray profile = "# export PAGER=less\nexport PAGER=most\n";
         Sandbox::writeFile(home("/.profile"), profile);
         Eve window;
-        const EveModel *model = window.eveModel();
-        window.tableView->setCurrentIndex(
-            model->match(model->index(0, 0), Qt::DisplayRole, "PAGER").value(0));
-        QStringList rows;
-        QString session, sentence;
-        ModalAnswerer answerer;
-        answerer.addAction([&](QWidget *widget) {
-            auto *dialog = qobject_cast<WhereSetDialog *>(widget);
-            session = dialog->sessionLabel->text();
-            sentence = dialog->explanationLabel->text();
-            for (int i = 0; i < dialog->lineList->topLevelItemCount(); ++i) {
-                const QTreeWidgetItem *item = dialog->lineList->topLevelItem(i);
-                QStringList cells;
-                for (int column = 0; column < dialog->lineList->columnCount(); ++column)
-                    cells << item->text(column);
-                rows << cells.join(" | ");
-            }
-            ModalAnswerer::clickButton(dialog, "Close");
-        });
-
-        window.findChild<WhereSetCommand *>()->action()->trigger();
-
-        QCOMPARE(answerer.seen.value(0).title, "Where is PAGER set?");
-        QCOMPARE(session, "In this session: PAGER=less");
-        QCOMPARE(rows, QStringList({"~/.profile | 1 | # export PAGER=less | commented out",
-                                    "~/.profile | 2 | export PAGER=most | "}));
-        QCOMPARE(sentence, "~/.profile sets `most`; this session has `less`: log in again to use "
-                           "the file's value");
-        QCOMPARE(Sandbox::readFile(home("/.profile")), profile);
-        QCOMPARE(answerer.pending(), 0);
-    }
-
-    void ctrlIAsksAboutTheCurrentRow()
-    {
-        Sandbox::setUserEnvironment({"PAGER=less"});
-        Eve window;
         window.show();
         QApplication::setActiveWindow(&window);
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        const EveModel *model = window.eveModel();
-        window.tableView->setCurrentIndex(
-            model->match(model->index(0, 0), Qt::DisplayRole, "PAGER").value(0));
-        ModalAnswerer answerer({"Close"});
+        EveModel *model = window.eveModel();
+        const QPersistentModelIndex pager =
+            model->match(model->index(0, 0), Qt::DisplayRole, "PAGER").value(0);
+        model->setData(pager.sibling(pager.row(), EveModel::ValueColumn),
+                       "most"); // as after a save
+        window.tableView->setCurrentIndex(pager);
+        QStringList texts; // what the dialog shows, top to bottom
+        ModalAnswerer answerer;
+        answerer.addAction([&texts](QWidget *widget) {
+            auto *dialog = qobject_cast<WhereSetDialog *>(widget);
+            texts << dialog->sessionLabel->text();
+            for (int i = 0; i < dialog->lineList->topLevelItemCount(); ++i) {
+                const QTreeWidgetItem *item = dialog->lineList->topLevelItem(i);
+                texts << QStringList({item->text(0), item->text(1), item->text(2), item->text(3)})
+                             .join(" | ");
+            }
+            texts << dialog->explanationLabel->text();
+            ModalAnswerer::clickButton(dialog, "Close");
+        });
 
         QTest::keyClick(window.tableView, Qt::Key_I, Qt::ControlModifier);
 
-        QCOMPARE(answerer.seen.value(0).title, "Where is PAGER set?");
+        QCOMPARE(texts, QStringList({"In this session: PAGER=less",
+                                     "~/.profile | 1 | # export PAGER=less | commented out",
+                                     "~/.profile | 2 | export PAGER=most | ",
+                                     "~/.profile sets `most`; this session has `less`: the saved "
+                                     "value takes effect at the next login"}));
+        QCOMPARE(Sandbox::readFile(home("/.profile")), profile);
         QCOMPARE(answerer.pending(), 0);
     }
 
