@@ -140,7 +140,7 @@ private slots:
     void manyEditsGiveTheBytesOfOneRewriteEach()
     {
         QRandomGenerator random(20261123);
-        for (int round = 0; round < 3000; ++round) {
+        for (int round = 0; round < 2000; ++round) {
             const QByteArray before = randomFile(random);
             QList<Edit> edits;
             for (int n = 1 + random.bounded(10); n > 0; --n) {
@@ -166,7 +166,7 @@ private slots:
     void lineEditsMatchThePatterns()
     {
         QRandomGenerator random(7);
-        for (int round = 0; round < 200000; ++round) {
+        for (int round = 0; round < 100000; ++round) {
             const QString line = pick(random, linePieces, 9);
             const QString name = namePieces.at(random.bounded(namePieces.size()));
 
