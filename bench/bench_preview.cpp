@@ -6,38 +6,11 @@
 #include "changepreview.h"
 #include "evemodel.h"
 #include "linediff.h"
-#include "sandbox.h"
-
+#include "startupfiles.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
-
-QString bashrc()
-{
-    return Sandbox::home() + QStringLiteral("/.bashrc");
-}
-
-QModelIndex valueOf(const EveModel &model, const QString &name)
-{
-    const QModelIndex found =
-        model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0);
-    return found.siblingAtColumn(EveModel::ValueColumn);
-}
-
-// `lines` lines of about 40 bytes, the exports of `names` spread among them.
-QByteArray startupFile(const QStringList &names, int lines)
-{
-    QByteArray bytes;
-    const int every = lines / qMax(1, names.size());
-    for (int i = 0; i < lines; ++i) {
-        if (i % every == 0 && i / every < names.size())
-            bytes += "export " + names.at(i / every).toUtf8() + "=/opt/old/value\n";
-        else
-            bytes += "alias l" + QByteArray::number(i) + "='ls -l --color=auto' # c\n";
-    }
-    return bytes;
-}
 
 void previewOf(benchmark::State &state, const QStringList &names, int lines)
 {
@@ -46,10 +19,10 @@ void previewOf(benchmark::State &state, const QStringList &names, int lines)
     for (const QString &name : names)
         environment << name + QStringLiteral("=/opt/old/value");
     Sandbox::setUserEnvironment(environment);
-    Sandbox::writeFile(bashrc(), startupFile(names, lines));
+    Sandbox::writeFile(userStartupFile(), startupFile(names, lines));
     EveModel model;
     for (const QString &name : names)
-        model.setData(valueOf(model, name), QStringLiteral("/opt/new/value"));
+        model.setData(valueIndexOf(model, name), QStringLiteral("/opt/new/value"));
     const bool checkSyntax = state.range(0) != 0;
     for (auto _ : state) {
         const ChangePreview preview =

@@ -3,7 +3,7 @@
 // one-line change. Every save also keeps its copy of the file and syncs.
 
 #include "evemodel.h"
-#include "sandbox.h"
+#include "startupfiles.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,37 +14,6 @@ extern char **environ;
 
 namespace {
 
-QString bashrc()
-{
-    return Sandbox::home() + QStringLiteral("/.bashrc");
-}
-
-QModelIndex valueOf(const EveModel &model, const QString &name)
-{
-    const QModelIndex found =
-        model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0);
-    return found.siblingAtColumn(EveModel::ValueColumn);
-}
-
-// A start-up file of `lines` lines: exports of the named variables spread
-// among ordinary shell lines.
-QByteArray startupFile(const QStringList &names, int lines, int lineLength)
-{
-    QByteArray bytes;
-    const int every = lines / qMax(1, names.size());
-    for (int i = 0; i < lines; ++i) {
-        QByteArray line;
-        if (i % every == 0 && i / every < names.size())
-            line = "export " + names.at(i / every).toUtf8() + "=/opt/old/value";
-        else
-            line = "alias l" + QByteArray::number(i) + "='ls -l --color=auto'";
-        if (line.size() < lineLength)
-            line += " # " + QByteArray(lineLength - line.size() - 3, 'c');
-        bytes += line + '\n';
-    }
-    return bytes;
-}
-
 void BM_Save1000ChangedVariablesInto5000Lines(benchmark::State &state)
 {
     Sandbox sandbox;
@@ -54,13 +23,13 @@ void BM_Save1000ChangedVariablesInto5000Lines(benchmark::State &state)
         environment << names.last() + QStringLiteral("=/opt/old/value");
     }
     Sandbox::setUserEnvironment(environment);
-    Sandbox::writeFile(bashrc(), startupFile(names, 5000, 40));
+    Sandbox::writeFile(userStartupFile(), startupFile(names, 5000, 40));
     EveModel model;
     int round = 0;
     for (auto _ : state) {
         state.PauseTiming();
         for (const QString &name : qAsConst(names))
-            model.setData(valueOf(model, name), QStringLiteral("/opt/new/%1").arg(round));
+            model.setData(valueIndexOf(model, name), QStringLiteral("/opt/new/%1").arg(round));
         ++round;
         state.ResumeTiming();
         if (!model.save())
@@ -69,23 +38,16 @@ void BM_Save1000ChangedVariablesInto5000Lines(benchmark::State &state)
 }
 BENCHMARK(BM_Save1000ChangedVariablesInto5000Lines)->Unit(benchmark::kMillisecond);
 
-// 16,384 lines of 64 bytes, FOO's export in the middle.
-QByteArray oneMebibyte()
-{
-    const QByteArray half = startupFile({}, 1 << 13, 63);
-    return half + startupFile({QStringLiteral("FOO")}, 1 << 13, 63);
-}
-
 void BM_SaveOneVariableInto1MiB(benchmark::State &state)
 {
     Sandbox sandbox;
     Sandbox::setUserEnvironment({QStringLiteral("FOO=/opt/old/value")});
-    Sandbox::writeFile(bashrc(), oneMebibyte());
+    Sandbox::writeFile(userStartupFile(), oneMebibyteWithFoo());
     EveModel model;
     int round = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        model.setData(valueOf(model, QStringLiteral("FOO")), QString::number(round++));
+        model.setData(valueIndexOf(model, QStringLiteral("FOO")), QString::number(round++));
         state.ResumeTiming();
         if (!model.save())
             state.SkipWithError("the save failed");
@@ -98,8 +60,8 @@ BENCHMARK(BM_SaveOneVariableInto1MiB)->Unit(benchmark::kMillisecond);
 void BM_SedOneVariableInto1MiB(benchmark::State &state)
 {
     Sandbox sandbox;
-    Sandbox::writeFile(bashrc(), oneMebibyte());
-    const QByteArray file = bashrc().toLocal8Bit();
+    Sandbox::writeFile(userStartupFile(), oneMebibyteWithFoo());
+    const QByteArray file = userStartupFile().toLocal8Bit();
     int round = 0;
     for (auto _ : state) {
         const QByteArray script =
