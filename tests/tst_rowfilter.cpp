@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 #include <QtTest>
 
 class TestRowFilter : public QObject
@@ -29,6 +30,15 @@ class TestRowFilter : public QObject
     EveModel *model() const { return window->eveModel(); }
     FilterBar *bar() const { return window->findChild<FilterBar *>(); }
     void type(const QString &text) { bar()->field()->setText(text); }
+    // Qt leaks a fade of the field's clear button that another fade cuts
+    // short or that the field outlives.
+    void waitForTheClearButton()
+    {
+        const QLineEdit *field = bar()->field();
+        const qreal opacity = field->text().isEmpty() ? 0.0 : 1.0;
+        QTRY_COMPARE(field->findChild<QToolButton *>()->property("opacity").toReal(), opacity);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
 private slots:
     void init()
@@ -39,8 +49,7 @@ private slots:
     }
     void cleanup()
     {
-        // Qt leaks the clear button's fades (160 ms) when the field goes before they end.
-        QTest::qWait(200);
+        waitForTheClearButton();
         window.reset();
         sandbox.reset();
     }
@@ -104,7 +113,7 @@ private slots:
         QTest::keyClick(window->tableView, Qt::Key_F, Qt::ControlModifier);
         QVERIFY(bar()->field()->hasFocus());
         QTest::keyClicks(bar()->field(), "vim");
-        QTest::qWait(200); // the clear button's fade in: Qt leaks one that another cuts short
+        waitForTheClearButton();
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
         QCOMPARE(bar()->countLabel()->text(), "2 of 7 variables");
         QVERIFY(bar()->countLabel()->isVisibleTo(window.get()));
