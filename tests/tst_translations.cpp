@@ -2,8 +2,6 @@
 #include "sandboxtest.h"
 #include "translations.h"
 
-#include <QMenuBar>
-
 class TestTranslations : public SandboxTest
 {
     Q_OBJECT
@@ -11,38 +9,29 @@ class TestTranslations : public SandboxTest
 private slots:
     void windowFollowsTheLocale_data()
     {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("menus");
+        QTest::addColumn<QLocale>("locale");
         QTest::addColumn<QString>("question");
-        QTest::addColumn<QString>("buttons");
-        const auto row = [](const char *name, const char *locale, const char *menus,
-                            const char *question, const char *buttons) {
-            QTest::newRow(name) << locale << menus << question << buttons;
-        };
-        const char *english = "&File &Edit &Tools &Help", *reset = "Do you really want to reset?";
-        row("C", "C", english, reset, "Yes No");
-        row("French, which only Qt has", "fr_FR", english, reset, "Yes No");
-        row("German", "de_DE", "&Datei &Bearbeiten E&xtras &Hilfe",
-            "Möchten Sie wirklich zurücksetzen?", "Ja Nein");
-        row("Russian", "ru_RU", "&Файл &Правка С&ервис &Справка",
-            "Вы действительно хотите сбросить изменения?", "Да Нет");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addRow("French, which only Qt has")
+            << QLocale("fr_FR") << "Do you really want to reset?" << QStringList{"Yes", "No"};
+        QTest::addRow("German") << QLocale("de_DE") << "Möchten Sie wirklich zurücksetzen?"
+                                << QStringList{"Ja", "Nein"};
+        QTest::addRow("Russian") << QLocale("ru_RU")
+                                 << "Вы действительно хотите сбросить изменения?"
+                                 << QStringList{"Да", "Нет"};
     }
     void windowFollowsTheLocale()
     {
-        QFETCH(QString, locale);
+        QFETCH(QLocale, locale);
         qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
-        QLocale::setDefault(QLocale(locale));
+        QLocale::setDefault(locale);
         installTranslations(qApp);
         Eve window;
-        QStringList menus;
-        for (const QAction *menu : window.menuBar()->actions())
-            menus << menu->text();
-        QTEST(menus.join(' '), "menus");
         answerer->addAction([](QWidget *box) { box->close(); }); // as No
         window.actionReset->setEnabled(true);
         window.actionReset->trigger();
         QTEST(answerer->seen.value(0).text, "question");
-        QTEST(answerer->seen.value(0).buttons.join(' '), "buttons");
+        QTEST(answerer->seen.value(0).buttons, "buttons");
         QCOMPARE(window.actionAdd->shortcut().toString(), "Ins"); // still the key's name
         // The window tells environment-only variables by the origin the model gave them.
         QCOMPARE(QCoreApplication::translate("Eve", "System"),
