@@ -7,31 +7,17 @@ class TestTranslations : public SandboxTest
     Q_OBJECT
 
 private slots:
-    void windowFollowsTheLocale_data()
-    {
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<QString>("question");
-        QTest::addColumn<QStringList>("buttons");
-        QTest::addRow("French, which only Qt has")
-            << QLocale("fr_FR") << "Do you really want to reset?" << QStringList{"Yes", "No"};
-        QTest::addRow("German") << QLocale("de_DE") << "Möchten Sie wirklich zurücksetzen?"
-                                << QStringList{"Ja", "Nein"};
-        QTest::addRow("Russian") << QLocale("ru_RU")
-                                 << "Вы действительно хотите сбросить изменения?"
-                                 << QStringList{"Да", "Нет"};
-    }
+    // German texts from our translation, the buttons from Qt's.
     void windowFollowsTheLocale()
     {
-        QFETCH(QLocale, locale);
-        qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
-        QLocale::setDefault(locale);
+        QLocale::setDefault(QLocale("de_DE"));
         installTranslations(qApp);
         Eve window;
         answerer->addAction([](QWidget *box) { box->close(); }); // as No
         window.actionReset->setEnabled(true);
         window.actionReset->trigger();
-        QTEST(answerer->seen.value(0).text, "question");
-        QTEST(answerer->seen.value(0).buttons, "buttons");
+        QCOMPARE(answerer->seen.value(0).text, "Möchten Sie wirklich zurücksetzen?");
+        QCOMPARE(answerer->seen.value(0).buttons, QStringList({"Ja", "Nein"}));
         QCOMPARE(window.actionAdd->shortcut().toString(), "Ins"); // still the key's name
         // The window tells environment-only variables by the origin the model gave them.
         QCOMPARE(QCoreApplication::translate("Eve", "System"),
