@@ -4,14 +4,11 @@
 
 #include <sys/stat.h>
 
-static QString bashrc()
-{
-    return Sandbox::home() + "/.bashrc";
-}
-
 class TestLoading : public SandboxTest
 {
     Q_OBJECT
+
+    const QString bashrc = Sandbox::home() + "/.bashrc";
 
 private slots:
     void exportLineGivesTheOrigin_data()
@@ -20,23 +17,19 @@ private slots:
         QTest::addColumn<bool>("exported");
         QTest::addRow("an export line") << QByteArray("export FOO=bar") << true;
         QTest::addRow("a commented-out export line") << QByteArray("# export FOO=bar") << true;
-        QTest::addRow("an export after a command") << QByteArray("cd; export FOO=\"a b\"") << true;
         QTest::addRow("a line ending in CR LF") << QByteArray("export FOO=bar\r") << true;
-        QTest::addRow("exported is not export") << QByteArray("exported FOO=bar") << false;
-        QTest::addRow("reexport is not export either") << QByteArray("reexport FOO=bar") << false;
-        QTest::addRow("an assignment alone") << QByteArray("FOO=bar") << false;
+        QTest::addRow("reexport is not export") << QByteArray("reexport FOO=bar") << false;
         QTest::addRow("the name in small letters") << QByteArray("export foo=bar") << false;
         QTest::addRow("a value without word characters") << QByteArray("export FOO=/") << false;
-        QTest::addRow("a second assignment on the line") << QByteArray("export A=1 FOO=2") << false;
     }
     void exportLineGivesTheOrigin()
     {
         QFETCH(QByteArray, line);
         QFETCH(bool, exported);
-        Sandbox::writeFile(bashrc(), "# first line\n" + line + "\nlast line\n");
+        Sandbox::writeFile(bashrc, "# first line\n" + line + "\nlast line\n");
         Sandbox::setUserEnvironment({"FOO=from the environment"});
         EveModel model;
-        QCOMPARE(cellOf(model, "FOO", EveModel::OriginColumn), exported ? bashrc() : "System");
+        QCOMPARE(cellOf(model, "FOO", EveModel::OriginColumn), exported ? bashrc : "System");
         QCOMPARE(cellOf(model, "FOO", EveModel::ValueColumn), "from the environment");
     }
 
@@ -44,40 +37,23 @@ private slots:
     {
         const QString profile = Sandbox::system("/etc/profile");
         Sandbox::writeFile(profile, "export PATH=/a\nexport SYS=1\n");
-        Sandbox::writeFile(bashrc(), "export PATH=/b\nexport ONLY_IN_A_FILE=1\n");
+        Sandbox::writeFile(bashrc, "export PATH=/b\nexport ONLY_IN_A_FILE=1\n");
         Sandbox::setUserEnvironment({"SYS=1"});
         EveModel model;
-        QCOMPARE(cellOf(model, "PATH", EveModel::OriginColumn), bashrc());
+        QCOMPARE(cellOf(model, "PATH", EveModel::OriginColumn), bashrc);
         QCOMPARE(cellOf(model, "SYS", EveModel::OriginColumn), profile);
         QCOMPARE(rowOf(model, "ONLY_IN_A_FILE"), -1);
     }
 
-    void environmentEntriesBecomeRows_data()
-    {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("name"); // empty: no row
-        QTest::addColumn<QString>("value");
-        const auto row = [](const char *name, const char *entry, const char *variable,
-                            const char *value) {
-            QTest::newRow(name) << entry << variable << value;
-        };
-        row("an ordinary entry", "EDITOR=vim", "EDITOR", "vim");
-        row("an empty value", "EMPTY=", "EMPTY", "");
-        row("spaces and equals signs in the value", "X= a=b ", "X", " a=b ");
-        row("a hyphenated name keeps its last part", "A-B=1", "B", "1");
-        row("an entry without a name is skipped", "=x", "", "");
-    }
+    // A name is the run of name characters before the first "=" that follows
+    // one; an entry without a name gives no row.
     void environmentEntriesBecomeRows()
     {
-        QFETCH(QString, entry);
-        QFETCH(QString, name);
-        QFETCH(QString, value);
-        Sandbox::setUserEnvironment({entry});
+        Sandbox::setUserEnvironment({"EMPTY=", "A-B=x= y", "=nameless"});
         EveModel model;
-        QCOMPARE(model.rowCount(), name.isEmpty() ? 4 : 5);
-        if (!name.isEmpty())
-            QCOMPARE(recordOf(model, name),
-                     QStringList({name, value, "System", "", "local", "", ""}));
+        QCOMPARE(namesOf(model), QStringList({"HOME", "LOGNAME", "SHELL", "PATH", "EMPTY", "B"}));
+        QCOMPARE(recordOf(model, "B"), QStringList({"B", "x= y", "System", "", "local", "", ""}));
+        QCOMPARE(cellOf(model, "EMPTY", EveModel::ValueColumn), "");
     }
 
     void storedDescriptionAndMarkWinOverTheCatalogue()
@@ -107,7 +83,6 @@ private slots:
         answerer->addAnswer("OK");
         EveModel model;
         QCOMPARE(answerer->seen.size(), 2);
-        QCOMPARE(answerer->seen.at(0).title, "");
         QCOMPARE(answerer->seen.at(0).text, "Couldn't open file: " + directory + " !");
         QCOMPARE(answerer->seen.at(1).text, "Couldn't open file: " + fifo + " !");
         QCOMPARE(cellOf(model, "EDITOR", EveModel::OriginColumn), next);
@@ -115,7 +90,7 @@ private slots:
 
     void reloadForgetsEditsAndDeletions()
     {
-        Sandbox::writeFile(bashrc(), "export EDITOR=vi\n");
+        Sandbox::writeFile(bashrc, "export EDITOR=vi\n");
         Sandbox::setUserEnvironment({"EDITOR=vim"});
         EveModel model;
         QSignalSpy resets(&model, &EveModel::modelReset);
@@ -126,7 +101,7 @@ private slots:
         QCOMPARE(resets.count(), 1);
         QVERIFY(model.deletedRows.isEmpty());
         QCOMPARE(rowOf(model, "NEW"), -1);
-        QCOMPARE(recordOf(model, "EDITOR").mid(1, 2), QStringList({"vim", bashrc()}));
+        QCOMPARE(recordOf(model, "EDITOR").mid(1, 2), QStringList({"vim", bashrc}));
     }
 };
 

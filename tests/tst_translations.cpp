@@ -2,47 +2,22 @@
 #include "sandboxtest.h"
 #include "translations.h"
 
-#include <QMenuBar>
-
 class TestTranslations : public SandboxTest
 {
     Q_OBJECT
 
 private slots:
-    void windowFollowsTheLocale_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("menus");
-        QTest::addColumn<QString>("question");
-        QTest::addColumn<QString>("buttons");
-        const auto row = [](const char *name, const char *locale, const char *menus,
-                            const char *question, const char *buttons) {
-            QTest::newRow(name) << locale << menus << question << buttons;
-        };
-        const char *english = "&File &Edit &Tools &Help", *reset = "Do you really want to reset?";
-        row("C", "C", english, reset, "Yes No");
-        row("French, which only Qt has", "fr_FR", english, reset, "Yes No");
-        row("German", "de_DE", "&Datei &Bearbeiten E&xtras &Hilfe",
-            "Möchten Sie wirklich zurücksetzen?", "Ja Nein");
-        row("Russian", "ru_RU", "&Файл &Правка С&ервис &Справка",
-            "Вы действительно хотите сбросить изменения?", "Да Нет");
-    }
+    // German texts from our translation, the buttons from Qt's.
     void windowFollowsTheLocale()
     {
-        QFETCH(QString, locale);
-        qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
-        QLocale::setDefault(QLocale(locale));
+        QLocale::setDefault(QLocale("de_DE"));
         installTranslations(qApp);
         Eve window;
-        QStringList menus;
-        for (const QAction *menu : window.menuBar()->actions())
-            menus << menu->text();
-        QTEST(menus.join(' '), "menus");
         answerer->addAction([](QWidget *box) { box->close(); }); // as No
         window.actionReset->setEnabled(true);
         window.actionReset->trigger();
-        QTEST(answerer->seen.value(0).text, "question");
-        QTEST(answerer->seen.value(0).buttons.join(' '), "buttons");
+        QCOMPARE(answerer->seen.value(0).text, "Möchten Sie wirklich zurücksetzen?");
+        QCOMPARE(answerer->seen.value(0).buttons, QStringList({"Ja", "Nein"}));
         QCOMPARE(window.actionAdd->shortcut().toString(), "Ins"); // still the key's name
         // The window tells environment-only variables by the origin the model gave them.
         QCOMPARE(QCoreApplication::translate("Eve", "System"),
