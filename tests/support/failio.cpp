@@ -2,20 +2,19 @@
 // tests can see what the program does when a disk fills up or a read goes
 // wrong. Idle unless ORV_FAIL_CALL is set:
 //   ORV_FAIL_CALL   pread | pwrite | fsync | ftruncate | fallocate
-//   ORV_FAIL_PATH   the file, as /proc/self/fd shows it
-//   ORV_FAIL_ERRNO  the error to report; 0 makes a read return 0, as at the
-//                   end of a file
-//   ORV_FAIL_AFTER  for pread and pwrite: bytes that still go through first
+//   ORV_FAIL_PATH   the file, by any of its names
+//   ORV_FAIL_ERRNO  the error to report; 0 makes pread report the file's end
+//   ORV_FAIL_AFTER  bytes that pread or pwrite still pass before failing
 //   ORV_FAIL_TIMES  how many calls fail before calls go through again
 // orv_failio_reset() starts the counting afresh.
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -33,16 +32,10 @@ bool isTarget(const char *call, int fd)
 {
     const char *wanted = std::getenv("ORV_FAIL_CALL");
     const char *path = std::getenv("ORV_FAIL_PATH");
-    if (!wanted || !path || std::strcmp(wanted, call) != 0)
-        return false;
-    char link[64];
-    char target[4096];
-    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
-    const ssize_t length = ::readlink(link, target, sizeof target - 1);
-    if (length < 0)
-        return false;
-    target[length] = '\0';
-    return std::strcmp(target, path) == 0;
+    struct stat opened, named;
+    return wanted && path && std::strcmp(wanted, call) == 0 && ::fstat(fd, &opened) == 0 &&
+           ::stat(path, &named) == 0 && opened.st_dev == named.st_dev &&
+           opened.st_ino == named.st_ino;
 }
 
 // How many of `count` bytes go through; -1 with errno set when the call fails.
@@ -52,7 +45,7 @@ ssize_t allowance(const char *call, int fd, size_t count)
         return ssize_t(count);
     const long left = setting("ORV_FAIL_AFTER") - passedBytes;
     if (left > 0) {
-        const ssize_t allowed = std::min(ssize_t(left), ssize_t(count));
+        const long allowed = std::min(left, long(count));
         passedBytes += allowed;
         return allowed;
     }
@@ -68,16 +61,6 @@ Function next(const char *name)
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
 }
 
-template <typename Function, typename Buffer>
-ssize_t transfer(Function function, const char *call, int fd, Buffer buffer, size_t count,
-                 off_t offset)
-{
-    const ssize_t allowed = allowance(call, fd, count);
-    if (allowed < 0)
-        return errno == 0 ? 0 : -1;
-    return function(fd, buffer, size_t(allowed), offset);
-}
-
 } // namespace
 
 extern "C" {
@@ -90,31 +73,34 @@ void orv_failio_reset()
 
 ssize_t pread(int fd, void *buffer, size_t count, off_t offset)
 {
-    static const auto function = next<decltype(&pread)>("pread");
-    return transfer(function, "pread", fd, buffer, count, offset);
+    const ssize_t allowed = allowance("pread", fd, count);
+    if (allowed < 0)
+        return errno == 0 ? 0 : -1;
+    return next<decltype(&pread)>("pread")(fd, buffer, size_t(allowed), offset);
 }
 
 ssize_t pwrite(int fd, const void *buffer, size_t count, off_t offset)
 {
-    static const auto function = next<decltype(&pwrite)>("pwrite");
-    return transfer(function, "pwrite", fd, buffer, count, offset);
+    const ssize_t allowed = allowance("pwrite", fd, count);
+    if (allowed < 0)
+        return -1;
+    return next<decltype(&pwrite)>("pwrite")(fd, buffer, size_t(allowed), offset);
 }
 
 int fsync(int fd)
 {
-    static const auto function = next<decltype(&fsync)>("fsync");
-    return allowance("fsync", fd, 0) < 0 ? -1 : function(fd);
+    return allowance("fsync", fd, 0) < 0 ? -1 : next<decltype(&fsync)>("fsync")(fd);
 }
 
 int ftruncate(int fd, off_t length)
 {
-    static const auto function = next<decltype(&ftruncate)>("ftruncate");
-    return allowance("ftruncate", fd, 0) < 0 ? -1 : function(fd, length);
+    return allowance("ftruncate", fd, 0) < 0 ? -1
+                                             : next<decltype(&ftruncate)>("ftruncate")(fd, length);
 }
 
 int fallocate(int fd, int mode, off_t offset, off_t length)
 {
-    static const auto function = next<decltype(&fallocate)>("fallocate");
-    return allowance("fallocate", fd, 0) < 0 ? -1 : function(fd, mode, offset, length);
+    const auto real = next<decltype(&fallocate)>("fallocate");
+    return allowance("fallocate", fd, 0) < 0 ? -1 : real(fd, mode, offset, length);
 }
 }
