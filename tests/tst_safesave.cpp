@@ -12,24 +12,6 @@
 
 namespace {
 
-// Makes one kind of system call fail on one file, through the preload
-// library the tests run with (support/failio.cpp), until the object goes.
-class InjectedFailure
-{
-public:
-    InjectedFailure(const char *call, const QString &path, int error, int bytesFirst = 0,
-                    int times = 1)
-    {
-        qputenv("ORV_FAIL_CALL", call);
-        qputenv("ORV_FAIL_PATH", QFile::encodeName(path));
-        qputenv("ORV_FAIL_ERRNO", QByteArray::number(error));
-        qputenv("ORV_FAIL_AFTER", QByteArray::number(bytesFirst));
-        qputenv("ORV_FAIL_TIMES", QByteArray::number(times));
-        reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, "orv_failio_reset"))();
-    }
-    ~InjectedFailure() { qunsetenv("ORV_FAIL_CALL"); }
-};
-
 // The FOO line is long, so that saving a short value makes the file shorter.
 QByteArray startupFile(const QByteArray &foo = QByteArray(100, 'x'))
 {
@@ -57,6 +39,17 @@ class TestSafeSave : public SandboxTest
     QScopedPointer<Eve> window;
 
     EveModel &model() { return *window->eveModel(); }
+    // Makes one kind of call on ~/.bashrc fail from now until cleanup(),
+    // through the preload library the tests run with (support/failio.cpp).
+    void injectFailure(const char *call, int error, int bytesFirst = 0, int times = 1)
+    {
+        qputenv("ORV_FAIL_CALL", call);
+        qputenv("ORV_FAIL_PATH", QFile::encodeName(bashrc));
+        qputenv("ORV_FAIL_ERRNO", QByteArray::number(error));
+        qputenv("ORV_FAIL_AFTER", QByteArray::number(bytesFirst));
+        qputenv("ORV_FAIL_TIMES", QByteArray::number(times));
+        reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, "orv_failio_reset"))();
+    }
     void setFoo(const QString &value)
     {
         model().setData(model().index(rowOf(model(), "FOO"), EveModel::ValueColumn), value);
@@ -102,6 +95,7 @@ private slots:
     }
     void cleanup()
     {
+        qunsetenv("ORV_FAIL_CALL");
         window.reset();
         SandboxTest::cleanup();
     }
@@ -129,7 +123,7 @@ private slots:
         QFETCH(int, error);
         QFETCH(int, bytesFirst);
         setFoo("2");
-        const InjectedFailure failure(call.constData(), bashrc, error, bytesFirst);
+        injectFailure(call.constData(), error, bytesFirst);
 
         checkFailedSave(call == "pread"
                             ? "Couldn't open file " + bashrc + " for saving variable FOO"
@@ -152,7 +146,7 @@ private slots:
     {
         setFoo("2");
         answerer->addAnswer("OK");
-        const InjectedFailure failure("pwrite", bashrc, EIO, 10, 1000);
+        injectFailure("pwrite", EIO, 10, 1000);
 
         QVERIFY(!model().save());
 
@@ -182,7 +176,7 @@ private slots:
     {
         QVERIFY(model().removeRows(rowOf(model(), "FOO"), 1));
         answerer->addAnswer("OK");
-        const InjectedFailure failure("pwrite", bashrc, ENOSPC);
+        injectFailure("pwrite", ENOSPC);
 
         QVERIFY2(model().save(), "a deletion that fails does not fail the save");
         QCOMPARE(Sandbox::readFile(bashrc), startupFile());
@@ -191,7 +185,8 @@ private slots:
                      " for deleting variable FOO: " + qt_error_string(ENOSPC));
     }
 
-    // Through a symbolic link, into the same inode, after a private copy.
+    // Through a symbolic link, into the same inode, each time after a
+    // private copy, of which the newest are kept.
     void saveRewritesTheFileInPlaceAfterCopyingIt()
     {
         const QString target = Sandbox::home() + "/dotfiles/bashrc";
@@ -199,30 +194,20 @@ private slots:
         QVERIFY(QFile::remove(bashrc) && QFile::link(target, bashrc));
         QCOMPARE(::chmod(QFile::encodeName(target).constData(), 0640), 0);
         const ino_t inode = statusOf(target).st_ino;
-        setFoo("2");
 
-        QVERIFY(model().save());
-
-        QVERIFY(QFileInfo(bashrc).isSymLink());
-        QCOMPARE(Sandbox::readFile(target), startupFile("2"));
-        QCOMPARE(statusOf(target).st_ino, inode);
-        QCOMPARE(statusOf(target).st_mode & 07777, 0640u);
-        const QList<Backups::Copy> copies = Backups::list(bashrc);
-        QCOMPARE(copies.size(), 1);
-        QVERIFY(copies.first().path.startsWith(Sandbox::data()));
-        QCOMPARE(Sandbox::readFile(copies.first().path), startupFile());
-        QCOMPARE(statusOf(copies.first().path).st_mode & 07777, 0600u);
-    }
-
-    void onlyTheNewestCopiesOfAFileAreKept()
-    {
-        for (int i = 0; i < Backups::keptPerFile + 2; ++i) {
+        for (int i = 0; i <= Backups::keptPerFile + 1; ++i) {
             setFoo(QString::number(i));
             QVERIFY(model().save());
         }
 
+        QVERIFY(QFileInfo(bashrc).isSymLink());
+        QCOMPARE(Sandbox::readFile(target), startupFile("21"));
+        QCOMPARE(statusOf(target).st_ino, inode);
+        QCOMPARE(statusOf(target).st_mode & 07777, 0640u);
         const QList<Backups::Copy> copies = Backups::list(bashrc);
         QCOMPARE(copies.size(), Backups::keptPerFile);
+        QVERIFY(copies.first().path.startsWith(Sandbox::data()));
+        QCOMPARE(statusOf(copies.first().path).st_mode & 07777, 0600u);
         // Newest first: the last save copied the value of the one before.
         QCOMPARE(Sandbox::readFile(copies.first().path), startupFile("20"));
         QCOMPARE(Sandbox::readFile(copies.last().path), startupFile("1"));
