@@ -18,49 +18,42 @@ static int childMain(int argc, char **argv)
     return 0;
 }
 
+// The sandbox gives the instances a private runtime folder and a temporary one.
 class TestInstanceLock : public QObject
 {
     Q_OBJECT
 
-    QScopedPointer<QTemporaryDir> runtime;
-    QString lockFile;
     QProcess instances[2];
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 
-    // Starts an instance with XDG_RUNTIME_DIR set to `runtime` (empty: unset)
-    // and returns what it says about the lock.
-    static QByteArray startInstance(QProcess &child, const QString &runtime)
+    QByteArray start(QProcess &instance)
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_RUNTIME_DIR", runtime);
-        child.setProcessEnvironment(environment);
-        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        child.start(QCoreApplication::applicationFilePath(), {"--child"});
-        return child.waitForReadyRead(20000) ? child.readLine().trimmed() : "no answer";
+        instance.setProcessEnvironment(environment);
+        instance.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        instance.start(QCoreApplication::applicationFilePath(), {"--child"});
+        return instance.waitForReadyRead(20000) ? instance.readLine().trimmed() : "no answer";
+    }
+    static QString lockFileIn(const QString &folder)
+    {
+        return folder + "/qtsingleapp-tst_instancelock-" + QString::number(::getuid()) + ".lock";
     }
 
 private slots:
-    void init()
-    {
-        runtime.reset(new QTemporaryDir);
-        QVERIFY(runtime->isValid());
-        lockFile = runtime->path() + "/qtsingleapp-tst_instancelock-" +
-                   QString::number(::getuid()) + ".lock";
-    }
     void cleanup()
     {
         for (QProcess &instance : instances) {
             instance.closeWriteChannel();
             instance.waitForFinished();
         }
-        runtime.reset();
+        environment = QProcessEnvironment::systemEnvironment();
     }
 
     // Nobody holds it: it has garbage in it, or its instance was killed.
-    // While the instance runs, the file is locked.
     void staleLockInTheRuntimeFolderIsTakenOver()
     {
+        const QString lockFile = lockFileIn(environment.value("XDG_RUNTIME_DIR"));
         Sandbox::writeFile(lockFile, "not a process number\n");
-        QCOMPARE(startInstance(instances[0], runtime->path()), "first");
+        QCOMPARE(start(instances[0]), "first");
         const int fd = ::open(QFile::encodeName(lockFile).constData(), O_RDONLY | O_CLOEXEC);
         QCOMPARE(::flock(fd, LOCK_EX | LOCK_NB), -1);
         ::close(fd);
@@ -68,23 +61,22 @@ private slots:
         instances[0].kill();
         instances[0].waitForFinished();
 
-        QCOMPARE(startInstance(instances[1], runtime->path()), "first");
+        QCOMPARE(start(instances[1]), "first");
     }
 
     // Another user made our lock file in the shared temporary folder and
     // holds it: it is not ours, so it does not count.
     void lockOfAnotherUserInTheSharedFolderDoesNotBlock()
     {
+        const QString lockFile = lockFileIn(environment.value("TMPDIR"));
         Sandbox::writeFile(lockFile, "");
         QCOMPARE(::chown(QFile::encodeName(lockFile).constData(), 65534, 65534), 0);
         const int held = ::open(QFile::encodeName(lockFile).constData(), O_RDONLY | O_CLOEXEC);
         QVERIFY(held >= 0 && ::flock(held, LOCK_EX) == 0);
-        qputenv("TMPDIR", QFile::encodeName(runtime->path()));
+        environment.remove("XDG_RUNTIME_DIR");
 
-        const QByteArray said = startInstance(instances[0], QString());
+        QCOMPARE(start(instances[0]), "first");
         ::close(held);
-
-        QCOMPARE(said, "first");
     }
 };
 
