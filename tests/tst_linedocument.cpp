@@ -21,35 +21,24 @@ struct Edit
 QByteArray editOneAtATime(QByteArray bytes, const QList<Edit> &edits)
 {
     for (const Edit &edit : edits) {
-        QByteArrayList raw = bytes.split('\n');
+        const bool blank = edit.value.isNull();
+        const QString assignment = edit.name + '=' + edit.value;
+        const QRegExp rx(blank ? "export.*" + edit.name + "=.*" : edit.name + "=.*");
+        QByteArrayList lines = bytes.split('\n');
         if (bytes.isEmpty() || bytes.endsWith('\n'))
-            raw.removeLast();
-        QStringList text;
-        for (QByteArray &line : raw) {
+            lines.removeLast();
+        bool holding = false;
+        bytes.clear();
+        for (QByteArray &line : lines) {
             if (line.endsWith('\r'))
                 line.chop(1);
-            text << QString::fromUtf8(line).remove('\r');
+            const QString text = QString::fromUtf8(line).remove('\r');
+            const QString edited = QString(text).replace(rx, blank ? " " : assignment);
+            holding = holding || edited.contains(assignment, Qt::CaseInsensitive);
+            bytes += (edited == text ? line : edited.toUtf8()) + '\n';
         }
-        QStringList lines = text;
-        if (edit.value.isNull()) {
-            const QRegExp rx("export.*" + edit.name + "=.*");
-            for (QString &line : lines)
-                line.replace(rx, " ");
-        } else {
-            const QString assignment = edit.name + '=' + edit.value;
-            const QRegExp rx(edit.name + "=.*");
-            int holding = 0;
-            for (QString &line : lines)
-                holding += line.replace(rx, assignment).contains(assignment, Qt::CaseInsensitive);
-            if (holding == 0)
-                lines.prepend("export " + assignment);
-        }
-        const int added = lines.size() - text.size();
-        bytes.clear();
-        for (int i = 0; i < lines.size(); ++i) {
-            const bool unchanged = i >= added && lines[i] == text[i - added];
-            bytes += (unchanged ? raw[i - added] : lines[i].toUtf8()) + '\n';
-        }
+        if (!blank && !holding)
+            bytes.prepend(("export " + assignment + '\n').toUtf8());
     }
     return bytes;
 }
