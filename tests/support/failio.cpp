@@ -38,7 +38,8 @@ bool isTarget(const char *call, int fd)
            opened.st_ino == named.st_ino;
 }
 
-// How many of `count` bytes go through; -1 with errno set when the call fails.
+// How many of `count` bytes go through; -1 with errno set when the call
+// fails, 0 when it is to report the end of the file.
 ssize_t allowance(const char *call, int fd, size_t count)
 {
     if (!isTarget(call, fd) || failedCalls >= setting("ORV_FAIL_TIMES"))
@@ -51,7 +52,7 @@ ssize_t allowance(const char *call, int fd, size_t count)
     }
     ++failedCalls;
     errno = int(setting("ORV_FAIL_ERRNO"));
-    return -1;
+    return errno == 0 ? 0 : -1;
 }
 
 // The definition the program would have called without this library.
@@ -74,17 +75,14 @@ void orv_failio_reset()
 ssize_t pread(int fd, void *buffer, size_t count, off_t offset)
 {
     const ssize_t allowed = allowance("pread", fd, count);
-    if (allowed < 0)
-        return errno == 0 ? 0 : -1;
-    return next<decltype(&pread)>("pread")(fd, buffer, size_t(allowed), offset);
+    return allowed < 0 ? -1 : next<decltype(&pread)>("pread")(fd, buffer, size_t(allowed), offset);
 }
 
 ssize_t pwrite(int fd, const void *buffer, size_t count, off_t offset)
 {
     const ssize_t allowed = allowance("pwrite", fd, count);
-    if (allowed < 0)
-        return -1;
-    return next<decltype(&pwrite)>("pwrite")(fd, buffer, size_t(allowed), offset);
+    return allowed < 0 ? -1
+                       : next<decltype(&pwrite)>("pwrite")(fd, buffer, size_t(allowed), offset);
 }
 
 int fsync(int fd)
