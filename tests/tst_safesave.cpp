@@ -107,13 +107,11 @@ private slots:
         QTest::addColumn<int>("bytesFirst");
         QTest::addRow("the disk fills up in the middle of the write")
             << QByteArray("pwrite") << ENOSPC << 1000;
-        QTest::addRow("the first byte cannot be written") << QByteArray("pwrite") << EIO << 0;
         QTest::addRow("syncing to the disk fails") << QByteArray("fsync") << EIO << 0;
         QTest::addRow("cutting the file to its new length fails")
             << QByteArray("ftruncate") << EIO << 0;
         QTest::addRow("no room can be reserved for the new content")
             << QByteArray("fallocate") << ENOSPC << 0;
-        QTest::addRow("reading fails at the start") << QByteArray("pread") << EIO << 0;
         QTest::addRow("reading fails in the middle") << QByteArray("pread") << EIO << 1000;
         QTest::addRow("the file ends before its size") << QByteArray("pread") << 0 << 1000;
     }
@@ -202,7 +200,6 @@ private slots:
         QCOMPARE(statusOf(target).st_mode & 07777, 0640u);
         const QList<Backups::Copy> copies = Backups::list(bashrc);
         QCOMPARE(copies.size(), Backups::keptPerFile);
-        QVERIFY(copies.first().path.startsWith(Sandbox::data()));
         QCOMPARE(statusOf(copies.first().path).st_mode & 07777, 0600u);
         // Newest first: the last save copied the value of the one before.
         QCOMPARE(Sandbox::readFile(copies.first().path), startupFile("20"));
