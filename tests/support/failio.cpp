@@ -8,7 +8,6 @@
 //   ORV_FAIL_TIMES  how many calls fail before calls go through again
 // orv_failio_reset() starts the counting afresh.
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -46,7 +45,7 @@ ssize_t allowance(const char *call, int fd, size_t count)
         return ssize_t(count);
     const long left = setting("ORV_FAIL_AFTER") - passedBytes;
     if (left > 0) {
-        const long allowed = std::min(left, long(count));
+        const long allowed = left < long(count) ? left : long(count);
         passedBytes += allowed;
         return allowed;
     }
