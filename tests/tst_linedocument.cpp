@@ -2,8 +2,6 @@
 #include "linegrammar.h"
 #include "randomlines.h"
 
-#include <QRandomGenerator>
-#include <QRegExp>
 #include <QtTest>
 
 namespace {
@@ -11,7 +9,8 @@ namespace {
 struct Edit
 {
     QString name;
-    QString value; // null: blank the variable's export instead
+    QString value;
+    bool blank = false; // blank the variable's export instead
 };
 
 // The save's edits as the patterns state them, one file rewrite per edit:
@@ -21,9 +20,8 @@ struct Edit
 QByteArray editOneAtATime(QByteArray bytes, const QList<Edit> &edits)
 {
     for (const Edit &edit : edits) {
-        const bool blank = edit.value.isNull();
         const QString assignment = edit.name + '=' + edit.value;
-        const QRegExp rx(blank ? "export.*" + edit.name + "=.*" : edit.name + "=.*");
+        const QRegExp rx(edit.blank ? "export.*" + edit.name + "=.*" : edit.name + "=.*");
         QByteArrayList lines = bytes.split('\n');
         if (bytes.isEmpty() || bytes.endsWith('\n'))
             lines.removeLast();
@@ -33,11 +31,11 @@ QByteArray editOneAtATime(QByteArray bytes, const QList<Edit> &edits)
             if (line.endsWith('\r'))
                 line.chop(1);
             const QString text = QString::fromUtf8(line).remove('\r');
-            const QString edited = QString(text).replace(rx, blank ? " " : assignment);
+            const QString edited = QString(text).replace(rx, edit.blank ? " " : assignment);
             holding = holding || edited.contains(assignment, Qt::CaseInsensitive);
             bytes += (edited == text ? line : edited.toUtf8()) + '\n';
         }
-        if (!blank && !holding)
+        if (!edit.blank && !holding)
             bytes.prepend(("export " + assignment + '\n').toUtf8());
     }
     return bytes;
@@ -48,14 +46,6 @@ QByteArray editOneAtATime(QByteArray bytes, const QList<Edit> &edits)
 // and carriage returns in values.
 const QStringList names{"PATH", "TH", "MANPATH", "A", "a", "PA.H", "EXPORT", "rt", "e\u00e9", ""};
 const QStringList valuePieces{"1", "x y", "\"q\"", "a\nb", "c\r", "\r\n", "2\\1", "", "\u00e9"};
-
-QString randomValue(QRandomGenerator &random)
-{
-    QString value;
-    for (int n = random.bounded(4); n > 0; --n)
-        value += valuePieces.at(random.bounded(valuePieces.size()));
-    return LineGrammar::quoteValue(value);
-}
 
 } // namespace
 
@@ -75,12 +65,16 @@ private slots:
             QList<Edit> edits;
             for (int n = 1 + random.bounded(10); n > 0; --n) {
                 const QString name = names.at(random.bounded(names.size()));
-                const QString value = random.bounded(4) == 0 ? QString() : randomValue(random);
-                edits.append({name, value});
-                if (value.isNull())
+                QString value;
+                for (int pieces = random.bounded(4); pieces > 0; --pieces)
+                    value += valuePieces.at(random.bounded(valuePieces.size()));
+                if (random.bounded(4) == 0) {
+                    edits.append({name, QString(), true});
                     document.blankExport(name);
-                else
-                    document.writeAssignment(name, value);
+                } else {
+                    edits.append({name, LineGrammar::quoteValue(value)});
+                    document.writeAssignment(name, edits.last().value);
+                }
             }
             QCOMPARE(document.toBytes(), editOneAtATime(before, edits));
         }

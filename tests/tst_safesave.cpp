@@ -35,7 +35,6 @@ class TestSafeSave : public SandboxTest
     Q_OBJECT
 
     const QString bashrc = Sandbox::home() + "/.bashrc";
-    const QString scratch = Sandbox::system("/tmp/orv-admin-env-localfile");
     QScopedPointer<Eve> window;
 
     EveModel &model() { return *window->eveModel(); }
@@ -71,13 +70,6 @@ class TestSafeSave : public SandboxTest
         QCOMPARE(window->statusBar()->currentMessage(), QString());
         QCOMPARE(Sandbox::readFile(bashrc), startupFile());
         QCOMPARE(cellOf(model(), "FOO", EveModel::PreviousColumn), QString(100, 'x'));
-    }
-    // Home files that cannot be opened make the local scratch file the choice.
-    void blockHomeFiles()
-    {
-        for (const char *name : {"/.bashrc", "/.bash_profile", "/.profile"})
-            Sandbox::blockPath(Sandbox::home() + name);
-        window.reset(new Eve);
     }
 
 private slots:
@@ -211,16 +203,18 @@ private slots:
         QCOMPARE(Sandbox::readFile(bashrc), startupFile("2"));
     }
 
-    void scratchFileThatIsNotOursIsNotUsed_data()
+    void scratchFileIsUsedOnlyWhenItIsOurs_data()
     {
         QTest::addColumn<QString>("kind");
         QTest::addRow("a symbolic link to another file") << "link";
         QTest::addRow("a file of another user") << "foreign";
         QTest::addRow("a file with a second name") << "hard link";
     }
-    void scratchFileThatIsNotOursIsNotUsed()
+    // Once the planted file is gone, the save creates a private one.
+    void scratchFileIsUsedOnlyWhenItIsOurs()
     {
         QFETCH(QString, kind);
+        const QString scratch = Sandbox::system("/tmp/orv-admin-env-localfile");
         const QString victim = Sandbox::system("/etc/victim");
         Sandbox::writeFile(victim, "precious\n");
         if (kind == "link") {
@@ -232,7 +226,10 @@ private slots:
             Sandbox::writeFile(scratch, "precious\n");
             QCOMPARE(::chown(QFile::encodeName(scratch).constData(), 65534, 65534), 0);
         }
-        blockHomeFiles();
+        // Home files that cannot be opened make the scratch file the choice.
+        for (const char *name : {"/.bashrc", "/.bash_profile", "/.profile"})
+            Sandbox::blockPath(Sandbox::home() + name);
+        window.reset(new Eve);
         setFoo("2");
         answerer->addAnswer("OK");
 
@@ -241,15 +238,9 @@ private slots:
         QCOMPARE(Sandbox::readFile(scratch), QByteArray("precious\n")); // the victim, if linked
         QCOMPARE(answerer->seen.value(0).text,
                  "Couldn't open file " + scratch + " for saving variable FOO");
-    }
 
-    void createdScratchFileIsPrivate()
-    {
-        blockHomeFiles();
-        setFoo("2");
-
+        QVERIFY(QFile::remove(scratch));
         QVERIFY(model().save());
-
         QCOMPARE(Sandbox::readFile(scratch), QByteArray("export FOO=2\n"));
         QCOMPARE(statusOf(scratch).st_mode & 07777, 0600u);
     }

@@ -54,7 +54,6 @@ ssize_t allowance(const char *call, int fd, size_t count)
     return errno == 0 ? 0 : -1;
 }
 
-// The definition the program would have called without this library.
 template <typename Function>
 Function next(const char *name)
 {
