@@ -3,7 +3,6 @@
 #include "filterbar.h"
 #include "rowfilter.h"
 #include "sandboxtest.h"
-#include "tablehelpers.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -85,18 +84,6 @@ private slots:
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
         bar()->field()->setText("VIM");
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
-    }
-
-    void commandsNeverActOnAHiddenRow()
-    {
-        window->tableView->selectRow(rowOf(*model(), "PAGER"));
-        bar()->field()->setText("vim");
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*model(), "EDITOR"));
-
-        window->actionEdit->setEnabled(true);
-        bar()->field()->setText("no such text");
-        QVERIFY(!window->tableView->currentIndex().isValid());
-        QVERIFY(!window->actionEdit->isEnabled());
     }
 
     void ctrlFThenTypingFiltersAndEscapeClears()

@@ -1,12 +1,16 @@
+#include "backups.h"
 #include "changepreview.h"
 #include "eve.h"
 #include "evemodel.h"
-#include "linediff.h"
 #include "previewdialog.h"
+#include "restore.h"
+#include "restoredialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
 
 #include <QPushButton>
+
+#include <sys/stat.h>
 
 // A new value as the editor dialog sets it, which asks nothing.
 static void setValue(EveModel &model, const QString &name, const QString &value)
@@ -17,21 +21,56 @@ static void setValue(EveModel &model, const QString &name, const QString &value)
                   record.at(EveModel::VipColumn), value, Qt::EditRole);
 }
 
+static struct stat statOf(const QString &path)
+{
+    struct stat info = {};
+    ::stat(QFile::encodeName(path).constData(), &info);
+    return info;
+}
+
 enum class Edit { Change, ChangeOfARowWhoseFileCannotBeOpened, Add, Delete };
 Q_DECLARE_METATYPE(Edit)
 
-class TestPreview : public SandboxTest
+// For the restore: ~/.bashrc holds the second version; its one copy, of an
+// earlier day, the first.
+static const QByteArray firstVersion = "# ~/.bashrc\nexport FOO=1\nalias ll='ls -l'\n";
+static const QByteArray secondVersion = "# ~/.bashrc\nexport FOO=2\nalias ll='ls -l'\n";
+static const QDateTime copyTime(QDate(2024, 5, 6), QTime(7, 8, 9), Qt::UTC);
+
+// What a save will do, and the copies that take it back.
+class TestHistory : public SandboxTest
 {
     Q_OBJECT
 
     const QString bashrc = Sandbox::home() + "/.bashrc";
+    QString copyPath;
+    QProcess program; // orv-admin-env-backups, in this test's sandbox
+
+    void runProgram(const QStringList &arguments)
+    {
+        program.start(ORV_BACKUPS_PROGRAM, arguments);
+        QVERIFY(program.waitForFinished(20000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    }
+    void keepTheFirstVersion()
+    {
+        Sandbox::writeFile(bashrc, secondVersion);
+        Sandbox::writeFile(copyPath, firstVersion);
+    }
 
 private slots:
+    void initTestCase()
+    {
+        // The editor's names, which place the copies where the program looks.
+        QCoreApplication::setOrganizationName("Orv");
+        QCoreApplication::setApplicationName("orv-admin-env");
+        copyPath = Backups::directory() + '/' + Backups::fileName(bashrc, copyTime);
+    }
     void init()
     {
         SandboxTest::init();
         Sandbox::setUserEnvironment(
-            {"EDITOR=vi", "AWS_PROFILE=dev", "MANPATH=/usr/share/man", "LANG=en_US"});
+            {"EDITOR=vi", "AWS_PROFILE=dev", "MANPATH=/usr/share/man", "LANG=en_US", "FOO=2"});
     }
 
     void previewOfEachCase_data()
@@ -137,37 +176,79 @@ private slots:
         QVERIFY(!action->isEnabled());
     }
 
-    void unifiedDiff_data()
+    void restoreFromTheWindowReloadsTheTable()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<QByteArray>("diff"); // without the "--- old\n+++ new\n" head
+        keepTheFirstVersion();
+        Eve window;
+        emit window.eveModel()->dataChanged({}, {}); // an unsaved edit
+        answerer->addAction([](QWidget *widget) {
+            auto *dialog = qobject_cast<RestoreDialog *>(widget); // never left open
+            dialog->restoreButton->isEnabled() ? dialog->restoreButton->click() : dialog->reject();
+        });
+        answerer->addAnswer("Yes"); // to losing the unsaved change
 
-        QByteArray twenty;
-        for (int i = 1; i <= 20; ++i)
-            twenty += QByteArray::number(i) + '\n';
-        const QByteArray ten = twenty.left(twenty.indexOf("11\n"));
-        QTest::addRow("a new file") << QByteArray() << QByteArray("export X=1\n")
-                                    << QByteArray("@@ -0,0 +1 @@\n+export X=1\n");
-        QTest::addRow("a file without a final line end gets one")
-            << QByteArray("a\nb") << QByteArray("a\nb\n")
-            << QByteArray("@@ -1,2 +1,2 @@\n a\n-b\n\\ No newline at end of file\n+b\n");
-        QTest::addRow("changes seven lines apart make two hunks")
-            << twenty << QByteArray(twenty).replace("1\n2\n", "x\n2\n").replace("\n9\n", "\ny\n")
-            << QByteArray("@@ -1,4 +1,4 @@\n-1\n+x\n 2\n 3\n 4\n"
-                          "@@ -6,7 +6,7 @@\n 6\n 7\n 8\n-9\n+y\n 10\n 11\n 12\n");
-        QTest::addRow("changes six lines apart share a hunk")
-            << ten << QByteArray(ten).replace("1\n2\n", "x\n2\n").replace("\n8\n", "\ny\n")
-            << QByteArray("@@ -1,10 +1,10 @@\n-1\n+x\n 2\n 3\n 4\n 5\n 6\n 7\n-8\n+y\n 9\n 10\n");
+        window.findChild<QAction *>("actionRestore")->trigger();
+
+        QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
+        QVERIFY(!window.isModified());
+        QCOMPARE(window.statusBar()->currentMessage(),
+                 "~/.bashrc was restored from its copy of " + Restore::timeText(copyTime) +
+                     "; what it held before is kept as a copy.");
     }
-    void unifiedDiff()
+
+    // The copy's bytes in the same inode and mode; what it replaced is kept.
+    void programRestoresTheExactBytesInPlace()
     {
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
-        QFETCH(QByteArray, diff);
-        QCOMPARE(LineDiff::unified(before, after, "old", "new"), "--- old\n+++ new\n" + diff);
+        keepTheFirstVersion();
+        QVERIFY(::chmod(QFile::encodeName(bashrc).constData(), 0640) == 0);
+        const ino_t inode = statOf(bashrc).st_ino;
+
+        runProgram({"restore", copyPath});
+
+        QCOMPARE(program.exitCode(), 0);
+        QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
+        QCOMPARE(statOf(bashrc).st_ino, inode);
+        QCOMPARE(statOf(bashrc).st_mode & 07777, mode_t(0640));
+        const QString kept = Backups::list(bashrc).first().path;
+        QCOMPARE(Sandbox::readFile(kept), secondVersion);
+    }
+
+    void programCommands_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QByteArray>("output"); // on the error stream unless the exit code is 0
+
+        const QString name = Backups::fileName(bashrc, copyTime);
+        const QString gone = Backups::fileName(bashrc, copyTime.addDays(1));
+        QTest::addRow("list") << QStringList{"list"} << 0
+                              << Restore::timeText(copyTime).toUtf8() + '\t' +
+                                     QByteArray::number(firstVersion.size()) + '\t' +
+                                     bashrc.toUtf8() + '\t' + name.toUtf8() + '\n';
+        QTest::addRow("diff") << QStringList{"diff", name} << 0
+                              << "--- " + bashrc.toUtf8() + "\n+++ " + copyPath.toUtf8() +
+                                     "\n@@ -1,3 +1,3 @@\n # ~/.bashrc\n-export FOO=2\n"
+                                     "+export FOO=1\n alias ll='ls -l'\n";
+        QTest::addRow("an unknown command")
+            << QStringList{"show"} << 2
+            << QByteArray("Unknown command: show\nTry \"orv-admin-env-backups --help\".\n");
+        QTest::addRow("a copy that is gone")
+            << QStringList{"diff", gone} << 1
+            << "The copy " + Backups::directory().toUtf8() + '/' + gone.toUtf8() +
+                   " cannot be read: No such file or directory\n";
+    }
+    void programCommands()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, output);
+        keepTheFirstVersion();
+        runProgram(arguments);
+        QCOMPARE(program.exitCode(), exitCode);
+        QCOMPARE(exitCode == 0 ? program.readAllStandardOutput() : program.readAllStandardError(),
+                 output);
     }
 };
 
-ORV_SANDBOX_TEST_MAIN(TestPreview)
-#include "tst_preview.moc"
+ORV_SANDBOX_TEST_MAIN(TestHistory)
+#include "tst_history.moc"
