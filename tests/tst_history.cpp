@@ -31,8 +31,7 @@ static struct stat statOf(const QString &path)
 enum class Edit { Change, ChangeOfARowWhoseFileCannotBeOpened, Add, Delete };
 Q_DECLARE_METATYPE(Edit)
 
-// For the restore: ~/.bashrc holds the second version; its one copy, of an
-// earlier day, the first.
+// ~/.bashrc holds the second version; its one copy, of an earlier day, the first.
 static const QByteArray firstVersion = "# ~/.bashrc\nexport FOO=1\nalias ll='ls -l'\n";
 static const QByteArray secondVersion = "# ~/.bashrc\nexport FOO=2\nalias ll='ls -l'\n";
 static const QDateTime copyTime(QDate(2024, 5, 6), QTime(7, 8, 9), Qt::UTC);
@@ -52,11 +51,6 @@ class TestHistory : public SandboxTest
         QVERIFY(program.waitForFinished(20000));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     }
-    void keepTheFirstVersion()
-    {
-        Sandbox::writeFile(bashrc, secondVersion);
-        Sandbox::writeFile(copyPath, firstVersion);
-    }
 
 private slots:
     void initTestCase()
@@ -71,6 +65,8 @@ private slots:
         SandboxTest::init();
         Sandbox::setUserEnvironment(
             {"EDITOR=vi", "AWS_PROFILE=dev", "MANPATH=/usr/share/man", "LANG=en_US", "FOO=2"});
+        Sandbox::writeFile(bashrc, secondVersion);
+        Sandbox::writeFile(copyPath, firstVersion);
     }
 
     void previewOfEachCase_data()
@@ -171,14 +167,13 @@ private slots:
 
         action->trigger();
 
-        QCOMPARE(Sandbox::readFile(bashrc), QByteArray("export EDITOR=vim\n"));
+        QCOMPARE(Sandbox::readFile(bashrc), "export EDITOR=vim\n" + secondVersion);
         QCOMPARE(window.statusBar()->currentMessage(), "Changes were saved successfully!");
         QVERIFY(!action->isEnabled());
     }
 
     void restoreFromTheWindowReloadsTheTable()
     {
-        keepTheFirstVersion();
         Eve window;
         emit window.eveModel()->dataChanged({}, {}); // an unsaved edit
         answerer->addAction([](QWidget *widget) {
@@ -199,7 +194,6 @@ private slots:
     // The copy's bytes in the same inode and mode; what it replaced is kept.
     void programRestoresTheExactBytesInPlace()
     {
-        keepTheFirstVersion();
         QVERIFY(::chmod(QFile::encodeName(bashrc).constData(), 0640) == 0);
         const ino_t inode = statOf(bashrc).st_ino;
 
@@ -220,7 +214,6 @@ private slots:
         QTest::addColumn<QByteArray>("output"); // on the error stream unless the exit code is 0
 
         const QString name = Backups::fileName(bashrc, copyTime);
-        const QString gone = Backups::fileName(bashrc, copyTime.addDays(1));
         QTest::addRow("list") << QStringList{"list"} << 0
                               << Restore::timeText(copyTime).toUtf8() + '\t' +
                                      QByteArray::number(firstVersion.size()) + '\t' +
@@ -232,17 +225,12 @@ private slots:
         QTest::addRow("an unknown command")
             << QStringList{"show"} << 2
             << QByteArray("Unknown command: show\nTry \"orv-admin-env-backups --help\".\n");
-        QTest::addRow("a copy that is gone")
-            << QStringList{"diff", gone} << 1
-            << "The copy " + Backups::directory().toUtf8() + '/' + gone.toUtf8() +
-                   " cannot be read: No such file or directory\n";
     }
     void programCommands()
     {
         QFETCH(QStringList, arguments);
         QFETCH(int, exitCode);
         QFETCH(QByteArray, output);
-        keepTheFirstVersion();
         runProgram(arguments);
         QCOMPARE(program.exitCode(), exitCode);
         QCOMPARE(exitCode == 0 ? program.readAllStandardOutput() : program.readAllStandardError(),
