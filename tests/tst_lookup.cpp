@@ -4,7 +4,6 @@
 #include "pathlistdialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
-#include "whereset.h"
 #include "wheresetdialog.h"
 
 #include <QDialogButtonBox>
@@ -61,17 +60,16 @@ private slots:
             "P", PathList::join({bin, bin + "/missing", bin + "/", "", file, bin}), nullptr);
 
         QStringList tips;
-        for (int row = 0; row < dialog.list->count(); ++row)
+        QList<qint64> icons;
+        for (int row = 0; row < dialog.list->count(); ++row) {
             tips << dialog.list->item(row)->toolTip();
+            icons << dialog.list->item(row)->icon().cacheKey();
+        }
         QCOMPARE(tips, QStringList({"", "does not exist", "duplicate of entry 1",
                                     "empty: stands for the current folder", "is not a folder",
                                     "duplicate of entry 1"}));
         // A missing folder and a repeat are marked, each its own way.
-        const auto icon = [&](int row) {
-            return dialog.list->item(row)->icon().cacheKey();
-        };
-        QVERIFY(icon(1) != icon(0));
-        QVERIFY(icon(2) != icon(0) && icon(2) != icon(1));
+        QVERIFY(icons[1] != icons[0] && icons[2] != icons[0] && icons[2] != icons[1]);
     }
 
     // OK hands the joined value to the record update, which asks before a

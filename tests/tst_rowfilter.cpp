@@ -18,10 +18,9 @@ class TestRowFilter : public SandboxTest
     QStringList visibleNames() const
     {
         QStringList names;
-        for (int row = 0; row < model()->rowCount(); ++row) {
+        for (int row = 0; row < model()->rowCount(); ++row)
             if (!window->tableView->isRowHidden(row))
                 names << model()->index(row, EveModel::VariableColumn).data().toString();
-        }
         return names;
     }
     EveModel *model() const { return window->eveModel(); }
