@@ -155,6 +155,7 @@ private slots:
 
         QCOMPARE(Sandbox::readFile(bashrc), "export EDITOR=vim\n" + secondVersion);
         QCOMPARE(window.statusBar()->currentMessage(), "Changes were saved successfully!");
+        QVERIFY(!action->isEnabled());
     }
 
     void restoreFromTheWindowReloadsTheTable()

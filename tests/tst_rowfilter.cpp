@@ -14,7 +14,6 @@ class TestRowFilter : public SandboxTest
 
     std::unique_ptr<Eve> window;
 
-    // The names of the rows the table shows, top to bottom.
     QStringList visibleNames() const
     {
         QStringList names;
