@@ -38,6 +38,7 @@ private slots:
     {
         QTest::addColumn<QString>("value");
         QTest::addColumn<QStringList>("entries");
+        QTest::addRow("an empty value has no entries") << "" << QStringList();
         QTest::addRow("an empty entry in the middle keeps its place")
             << "/a::/b" << QStringList({"/a", "", "/b"});
         QTest::addRow("empty entries at both ends keep their places")
@@ -72,8 +73,7 @@ private slots:
         QVERIFY(icons[1] != icons[0] && icons[2] != icons[0] && icons[2] != icons[1]);
     }
 
-    // OK hands the joined value to the record update, which asks before a
-    // critical variable changes.
+    // OK hands the joined value to the record update, which asks first on a critical row.
     void theDialogUpdatesTheRecordAsEditDoes_data()
     {
         QTest::addColumn<QString>("confirmation");
