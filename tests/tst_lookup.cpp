@@ -104,40 +104,38 @@ private slots:
 
     void findsEveryLineInLoginOrderAndSaysWhichFileCannotBeRead()
     {
-        Sandbox::writeFile(Sandbox::system("/etc/environment"), "LANG=C\nPAGER=\"less -R\"\n");
-        Sandbox::writeFile(Sandbox::home() + "/.pam_environment",
-                           "PAGER DEFAULT=less OVERRIDE=\"most -s\"\n");
-        Sandbox::writeFile(Sandbox::home() + "/.config/environment.d/20-b.conf",
-                           "PAGER=${HOME}/bin/pg\n");
-        Sandbox::writeFile(Sandbox::home() + "/.config/environment.d/10-a.conf", "# PAGER=pg\n");
-        Sandbox::writeFile(Sandbox::system("/etc/profile"), "PATH=/usr/bin\r\nexport PAGER\r\n");
-        Sandbox::writeFile(Sandbox::system("/etc/bash.bashrc"), "if true; then PAGER=less; fi\n");
-        Sandbox::writeFile(Sandbox::system("/etc/profile.d/b.sh"), "export PAGER=b\n");
-        Sandbox::writeFile(Sandbox::system("/etc/profile.d/a.sh"), "export PAGER=a\n");
-        Sandbox::writeFile(Sandbox::system("/etc/profile.d/c.txt"), "export PAGER=c\n");
-        Sandbox::writeFile(Sandbox::system("/etc/extra"), "export PAGER=extra\n");
-        Sandbox::writeFile(Sandbox::home() + "/.bash_profile", "export PAGER=most # the best\n");
-        Sandbox::blockPath(Sandbox::home() + "/.bash_login");
-        Sandbox::writeFile(Sandbox::home() + "/.profile",
+        const QString etc = Sandbox::system("/etc"), home = Sandbox::home();
+        Sandbox::writeFile(etc + "/environment", "LANG=C\nPAGER=less -R\n");
+        Sandbox::writeFile(home + "/.pam_environment", "PAGER DEFAULT=less OVERRIDE=\"most -s\"\n");
+        Sandbox::writeFile(home + "/.config/environment.d/20-b.conf", "PAGER=${HOME}/pg -s\n");
+        Sandbox::writeFile(home + "/.config/environment.d/10-a.conf", "# PAGER=\"pg\"\n");
+        Sandbox::writeFile(etc + "/profile", "PATH=/usr/bin\r\nexport PAGER\r\n");
+        Sandbox::writeFile(etc + "/bash.bashrc", "if true; then PAGER=less; fi\n");
+        Sandbox::writeFile(etc + "/profile.d/b.sh", "export PAGER=b\n");
+        Sandbox::writeFile(etc + "/profile.d/a.sh", "export PAGER=a\n");
+        Sandbox::writeFile(etc + "/profile.d/c.txt", "export PAGER=c\n");
+        Sandbox::writeFile(etc + "/extra", "export PAGER=extra\n");
+        Sandbox::writeFile(home + "/.bash_profile", "export PAGER=most # the best\n");
+        Sandbox::blockPath(home + "/.bash_login");
+        Sandbox::writeFile(home + "/.profile",
                            "umask 022\n# export PAGER=less\nif [ -x /usr/bin/most ]; then\n"
                            "    PAGER=most\nfi\nexport MYPAGER=x");
-        Sandbox::writeFile(Sandbox::home() + "/.bashrc", "echo PAGER=x # PAGER=y\n"
-                                                         "export B=1 PAGER=less; PAGER=most\n"
-                                                         "PAGER=pg; export PAGER\n");
+        Sandbox::writeFile(home + "/.bashrc", "echo PAGER=x # PAGER=y\n"
+                                              "export B=1 PAGER=less; PAGER=most\n"
+                                              "PAGER=pg; export PAGER\n");
+        Sandbox::writeFile(home + "/.extra", "PAGER=extra\n");
         // The editor's lists repeat known files and name a missing one.
-        const QStringList systemFiles{Sandbox::system("/etc/profile"),
-                                      Sandbox::system("/etc/extra")};
-        const QStringList userFiles{Sandbox::home() + "/.bashrc", Sandbox::home() + "/.missing"};
+        const QStringList systemFiles{etc + "/profile", etc + "/extra"};
+        const QStringList userFiles{home + "/.bashrc", home + "/.extra", home + "/.missing"};
 
         // As "file:number: text [value]", "/etc" under the system root.
         QStringList found;
         for (const WhereSet::File &file :
-             WhereSet::startupFiles(EveModel::Bash, Sandbox::home(), systemFiles, userFiles)) {
+             WhereSet::startupFiles(EveModel::Bash, home, systemFiles, userFiles)) {
             for (const Line &line : WhereSet::scanFile(file, "PAGER")) {
                 const QString number = line.readable ? QString::number(line.number) + ":" : "";
-                found << WhereSet::displayPath(line.path, Sandbox::home())
-                                 .remove(Sandbox::sysroot()) +
-                             ":" + number + " " + line.text +
+                found << WhereSet::displayPath(line.path, home).remove(Sandbox::sysroot()) + ":" +
+                             number + " " + line.text +
                              (line.hasValue ? " [" + line.value + "]" : "") +
                              (line.commented ? " (commented out)" : "");
             }
@@ -145,10 +143,10 @@ private slots:
 
         QCOMPARE(found,
                  QStringList({
-                     "/etc/environment:2: PAGER=\"less -R\" [less -R]",
+                     "/etc/environment:2: PAGER=less -R [less -R]",
                      "~/.pam_environment:1: PAGER DEFAULT=less OVERRIDE=\"most -s\" [most -s]",
-                     "~/.config/environment.d/10-a.conf:1: # PAGER=pg [pg] (commented out)",
-                     "~/.config/environment.d/20-b.conf:1: PAGER=${HOME}/bin/pg [${HOME}/bin/pg]",
+                     "~/.config/environment.d/10-a.conf:1: # PAGER=\"pg\" [pg] (commented out)",
+                     "~/.config/environment.d/20-b.conf:1: PAGER=${HOME}/pg -s [${HOME}/pg -s]",
                      "/etc/profile:2: export PAGER",
                      "/etc/bash.bashrc:1: if true; then PAGER=less; fi [less]",
                      "/etc/profile.d/a.sh:1: export PAGER=a [a]",
@@ -160,6 +158,7 @@ private slots:
                      "~/.profile:4:     PAGER=most [most]",
                      "~/.bashrc:2: export B=1 PAGER=less; PAGER=most [most]",
                      "~/.bashrc:3: PAGER=pg; export PAGER [pg]",
+                     "~/.extra:1: PAGER=extra [extra]",
                  }));
     }
 
