@@ -17,12 +17,11 @@ class TestRowFilter : public SandboxTest
     QStringList visibleNames() const
     {
         QStringList names;
-        for (int row = 0; row < model()->rowCount(); ++row)
+        for (int row = 0; row < window->eveModel()->rowCount(); ++row)
             if (!window->tableView->isRowHidden(row))
-                names << model()->index(row, EveModel::VariableColumn).data().toString();
+                names << window->eveModel()->index(row, EveModel::VariableColumn).data().toString();
         return names;
     }
-    EveModel *model() const { return window->eveModel(); }
     FilterBar *bar() const { return window->findChild<FilterBar *>(); }
     // Qt leaks a fade of the field's clear button that another fade cuts
     // short or that the field outlives.
@@ -67,13 +66,14 @@ private slots:
     void hiddenRowsStayHiddenAfterAResortAReloadAndAnAdd()
     {
         bar()->field()->setText("vim");
-        model()->sort(0, Qt::AscendingOrder);
+        window->eveModel()->sort(0, Qt::AscendingOrder);
         QCOMPARE(visibleNames(), QStringList({"VISUAL", "EDITOR"}));
-        model()->reload();
+        window->eveModel()->reload();
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
 
-        model()->insertRows(model()->rowCount(), 1, {"NEWVAR", "x", "", "local"});
-        model()->sort(0, Qt::DescendingOrder);
+        window->eveModel()->insertRows(window->eveModel()->rowCount(), 1,
+                                       {"NEWVAR", "x", "", "local"});
+        window->eveModel()->sort(0, Qt::DescendingOrder);
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
         bar()->field()->setText("VIM");
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
