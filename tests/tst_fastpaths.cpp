@@ -37,7 +37,7 @@ private slots:
             const QString found =
                 matcher.match(line) ? matcher.name() + '=' + matcher.value() : QString();
             QVERIFY2(found == expected,
-                     qPrintable(line + ": " + found + " instead of " + expected));
+                     qPrintable(line + " gives " + found + " (QRegExp: " + expected + ")"));
             matches += !expected.isNull();
         }
         // Both outcomes must be common, or the lines test little.

@@ -188,7 +188,7 @@ private slots:
         QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
         QCOMPARE(statOf(bashrc).st_ino, inode);
         QCOMPARE(statOf(bashrc).st_mode & 07777, mode_t(0640));
-        QCOMPARE(Sandbox::readFile(Backups::list(bashrc).first().path), secondVersion);
+        QCOMPARE(Sandbox::readFile(Backups::list(bashrc).value(0).path), secondVersion);
     }
 
     void programCommands_data()
