@@ -3,8 +3,8 @@
 #include <QRandomGenerator>
 #include <QStringList>
 
-// Random lines built from the pieces that decide how the read grammar and the
-// split of environment entries match. The same start value gives the same lines.
+// Random lines built from the pieces that decide how the read grammar matches.
+// The same start value gives the same lines.
 class RandomLines
 {
 public:
