@@ -4,6 +4,22 @@
 
 #include <sys/stat.h>
 
+// "~/" stands for the sandbox home and "/" for the sandbox root; other names
+// stand for themselves.
+static QString place(const QString &path)
+{
+    if (path.startsWith("~/"))
+        return Sandbox::home() + path.mid(1);
+    return path.startsWith('/') ? Sandbox::system(path) : path;
+}
+
+static QStringList place(QStringList paths)
+{
+    for (QString &path : paths)
+        path = place(path);
+    return paths;
+}
+
 class TestLoading : public SandboxTest
 {
     Q_OBJECT
@@ -11,38 +27,92 @@ class TestLoading : public SandboxTest
     const QString bashrc = Sandbox::home() + "/.bashrc";
 
 private slots:
-    void exportLineGivesTheOrigin_data()
+    void shellAndOpenableFilesDecideTheFiles_data()
     {
-        QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<bool>("exported");
-        QTest::addRow("an export line") << QByteArray("export FOO=bar") << true;
-        QTest::addRow("a commented-out export line") << QByteArray("# export FOO=bar") << true;
-        QTest::addRow("a line ending in CR LF") << QByteArray("export FOO=bar\r") << true;
-        QTest::addRow("reexport is not export") << QByteArray("reexport FOO=bar") << false;
-        QTest::addRow("the name in small letters") << QByteArray("export foo=bar") << false;
-        QTest::addRow("a value without word characters") << QByteArray("export FOO=/") << false;
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QStringList>("unopenable");
+        QTest::addColumn<int>("kind"); // 0 other, 1 bash, 2 csh
+        QTest::addColumn<QString>("localFile");
+        QTest::addColumn<QString>("globalFile");
+        const auto row = [](const char *name, const char *shell, const QStringList &unopenable,
+                            int kind, const char *local, const char *global) {
+            QTest::newRow(name) << shell << unopenable << kind << local << global;
+        };
+        row("bash in capitals", "/bin/BASH", {}, 1, "~/.bashrc", "/etc/bash.bashrc");
+        row("tcsh in capitals", "/bin/TCSH", {}, 2, "~/.cshrc", "/etc/csh.cshrc");
+        row("zsh is another shell", "/bin/zsh", {}, 0, "~/.profile", "/etc/profile");
+        row("bash takes ~/.bash_profile next", "/bin/bash", {"~/.bashrc"}, 1, "~/.bash_profile",
+            "/etc/bash.bashrc");
+        row("bash takes ~/.profile last", "/bin/bash", {"~/.bashrc", "~/.bash_profile"}, 1,
+            "~/.profile", "/etc/bash.bashrc");
+        row("csh takes ~/.tcshrc next", "/bin/csh", {"~/.cshrc"}, 2, "~/.tcshrc", "/etc/csh.cshrc");
+        row("no user file at all", "/bin/csh", {"~/.cshrc", "~/.tcshrc", "~/.profile"}, 2,
+            "/tmp/orv-admin-env-localfile", "/etc/csh.cshrc");
+        row("no shell's system file", "/bin/bash", {"/etc/bash.bashrc"}, 1, "~/.bashrc",
+            "/etc/profile");
+        row("no system file at all", "/bin/bash", {"/etc/bash.bashrc", "/etc/profile"}, 1,
+            "~/.bashrc", "/tmp/orv-admin-env-globalfile");
     }
-    void exportLineGivesTheOrigin()
+    void shellAndOpenableFilesDecideTheFiles()
     {
-        QFETCH(QByteArray, line);
-        QFETCH(bool, exported);
-        Sandbox::writeFile(bashrc, "# first line\n" + line + "\nlast line\n");
-        Sandbox::setUserEnvironment({"FOO=from the environment"});
+        QFETCH(QString, shell);
+        QFETCH(QStringList, unopenable);
+        QFETCH(int, kind);
+        QFETCH(QString, localFile);
+        QFETCH(QString, globalFile);
+        for (const QString &path : unopenable)
+            Sandbox::blockPath(place(path));
+        Sandbox::setEnvironment({"HOME=" + Sandbox::home(), "LOGNAME=tester", "SHELL=" + shell});
+        if (unopenable.contains("/etc/profile")) // scanned as well, so reported
+            answerer->addAnswer("OK");
         EveModel model;
-        QCOMPARE(cellOf(model, "FOO", EveModel::OriginColumn), exported ? bashrc : "System");
-        QCOMPARE(cellOf(model, "FOO", EveModel::ValueColumn), "from the environment");
+        QCOMPARE(model.ShellKind, kind);
+        QCOMPARE(model.bashShell, kind == 1);
+        QCOMPARE(model.localFile, place(localFile));
+        QCOMPARE(model.globalFile, place(globalFile));
+        QVERIFY2(QFileInfo(model.localFile).isFile() || localFile.startsWith("/tmp"),
+                 "the chosen user file is created");
     }
 
-    void lastFileThatExportsWins()
+    void fileListsComeFromTheSettings_data()
     {
-        const QString profile = Sandbox::system("/etc/profile");
-        Sandbox::writeFile(profile, "export PATH=/a\nexport SYS=1\n");
-        Sandbox::writeFile(bashrc, "export PATH=/b\nexport ONLY_IN_A_FILE=1\n");
-        Sandbox::setUserEnvironment({"SYS=1"});
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QStringList>("storedSystemFiles");
+        QTest::addColumn<QStringList>("systemFiles");
+        QTest::addColumn<QStringList>("userFiles");
+        const auto row = [](const char *name, const char *login, const char *shell,
+                            const QStringList &stored, const QStringList &system,
+                            const QStringList &user) {
+            QTest::newRow(name) << login << shell << stored << system << user;
+        };
+        const QStringList bashFiles{"b.sh", "~/.bashrc"};
+        row("a user scans /etc/profile first", "tester", "bash", {"a.sh"}, {"/etc/profile", "a.sh"},
+            bashFiles);
+        row("root, in any letter case, scans the shell's system file next", "Root", "bash",
+            {"a.sh"}, {"/etc/profile", "/etc/bash.bashrc", "a.sh"}, bashFiles);
+        row("files listed already are not added again", "root", "bash",
+            {"/etc/bash.bashrc", "/etc/profile"}, {"/etc/bash.bashrc", "/etc/profile"}, bashFiles);
+        row("csh reads its own list, the user file first", "tester", "tcsh", {"a.sh"},
+            {"/etc/profile", "a.sh"}, {"~/.cshrc", "c.sh"});
+        row("another shell reads no user list", "tester", "sh", {"a.sh"}, {"/etc/profile", "a.sh"},
+            {"~/.profile"});
+    }
+    void fileListsComeFromTheSettings()
+    {
+        QFETCH(QString, login);
+        QFETCH(QString, shell);
+        QFETCH(QStringList, storedSystemFiles);
+        QFETCH(QStringList, systemFiles);
+        QFETCH(QStringList, userFiles);
+        QSettings settings;
+        settings.setValue("configFiles/system", place(storedSystemFiles));
+        settings.setValue("configFiles/bash", place(QStringList{"b.sh", "~/.bashrc"}));
+        settings.setValue("configFiles/tcsh", QStringList{"c.sh"});
+        Sandbox::setUserEnvironment({"LOGNAME=" + login, "SHELL=/bin/" + shell});
         EveModel model;
-        QCOMPARE(cellOf(model, "PATH", EveModel::OriginColumn), bashrc);
-        QCOMPARE(cellOf(model, "SYS", EveModel::OriginColumn), profile);
-        QCOMPARE(rowOf(model, "ONLY_IN_A_FILE"), -1);
+        QCOMPARE(model.systemFiles, place(systemFiles));
+        QCOMPARE(model.userFiles, place(userFiles));
     }
 
     // A name is the run of name characters before the first "=" that follows
@@ -70,22 +140,30 @@ private slots:
         QCOMPARE(recordOf(model, "EDITOR").mid(3, 3), QStringList({"mine", "local", "true"}));
     }
 
-    void unreadableFilesAreReportedAndSkipped()
+    // The origin is the last file that exports the variable: system files come
+    // before user files. A file that cannot be read is reported and skipped.
+    void originIsTheLastReadableFileThatExports()
     {
+        const QString profile = Sandbox::system("/etc/profile");
         const QString directory = Sandbox::system("/etc/directory");
         const QString fifo = Sandbox::system("/etc/fifo"), next = Sandbox::system("/etc/next");
+        Sandbox::writeFile(profile, "export PATH=/a\nexport SYS=1\nexport EDITOR=vi\n");
         Sandbox::blockPath(directory);
         QCOMPARE(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
         Sandbox::writeFile(next, "export EDITOR=vi\n");
+        Sandbox::writeFile(bashrc, "export PATH=/b\nexport ONLY_IN_A_FILE=1\n");
         QSettings().setValue("configFiles/system", QStringList{directory, fifo, "missing", next});
-        Sandbox::setUserEnvironment({"EDITOR=vim"});
+        Sandbox::setUserEnvironment({"EDITOR=vim", "SYS=1"});
         answerer->addAnswer("OK");
         answerer->addAnswer("OK");
         EveModel model;
         QCOMPARE(answerer->seen.size(), 2);
         QCOMPARE(answerer->seen.at(0).text, "Couldn't open file: " + directory + " !");
         QCOMPARE(answerer->seen.at(1).text, "Couldn't open file: " + fifo + " !");
+        QCOMPARE(cellOf(model, "PATH", EveModel::OriginColumn), bashrc);
+        QCOMPARE(cellOf(model, "SYS", EveModel::OriginColumn), profile);
         QCOMPARE(cellOf(model, "EDITOR", EveModel::OriginColumn), next);
+        QCOMPARE(rowOf(model, "ONLY_IN_A_FILE"), -1);
     }
 
     void reloadForgetsEditsAndDeletions()
