@@ -64,8 +64,8 @@ private slots:
         const QColor light(239, 240, 241), dark(49, 54, 59);
         QTest::addRow("a dark palette takes Breeze Dark")
             << dark << QStringList{"breeze", "breeze-dark"} << "breeze-dark";
-        QTest::addRow("a light palette does not take Breeze Dark")
-            << light << QStringList{"breeze-dark"} << "";
+        QTest::addRow("a light palette takes Breeze beside Breeze Dark")
+            << light << QStringList{"breeze-dark", "breeze"} << "breeze";
         QTest::addRow("a dark palette without Breeze Dark takes Breeze")
             << dark << QStringList{"breeze"} << "breeze";
     }

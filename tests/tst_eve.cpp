@@ -1,11 +1,9 @@
 #include "eve.h"
 #include "evemodel.h"
+#include "preferencesdialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
 #include "ueditor.h"
-
-#include <QGroupBox>
-#include <QMenuBar>
 
 static QList<int> columnWidths(const Eve &window)
 {
@@ -15,19 +13,27 @@ static QList<int> columnWidths(const Eve &window)
     return widths;
 }
 
-// The session of every test: EXTRA and ZED, ordinary variables, and HOME,
-// LOGNAME, PATH and SHELL, critical ones; /etc/profile exports SHELL. The
-// table starts sorted from A to Z, so EXTRA is the first row.
+// The main window, its commands and its dialogs. The session of every test:
+// EXTRA and ZED, ordinary variables, and HOME, LOGNAME, PATH and SHELL,
+// critical ones; /etc/profile exports SHELL. The table starts sorted from A
+// to Z, so EXTRA is the first row.
 class TestEve : public SandboxTest
 {
     Q_OBJECT
 
     QScopedPointer<Eve> window;
+    QScopedPointer<preferencesDialog> preferences;
     const QString bashrc = Sandbox::home() + "/.bashrc";
-    const QString saved =
-        "Changes were saved: Changes were saved and will be applied after restarting a session!";
 
     EveModel *model() const { return window->eveModel(); }
+    void restart(const QString &login, const QString &shell = "bash")
+    {
+        preferences.reset();
+        window.reset();
+        Sandbox::setUserEnvironment(
+            {"EXTRA=1", "ZED=1", "LOGNAME=" + login, "SHELL=/bin/" + shell});
+        window.reset(new Eve);
+    }
     void select(const QString &name) { window->tableView->selectRow(rowOf(*model(), name)); }
     int selectedRow() const // -1: none
     {
@@ -64,17 +70,37 @@ class TestEve : public SandboxTest
                 timer && timer->isActive() ? timer->interval() : 0};
     }
 
+    // The preferences dialog over the system files a, b and c and the same user files.
+    void openPreferences()
+    {
+        model()->systemFiles = model()->userFiles = QStringList{"a", "b", "c"};
+        preferences.reset(new preferencesDialog(window.data(), model()));
+    }
+    QListWidget *list(const QString &which) const
+    {
+        return preferences->findChild<QListWidget *>(which + "FilesList");
+    }
+    QPushButton *button(const QString &which, const QString &role) const
+    {
+        return preferences->findChild<QPushButton *>(which + role + "Button");
+    }
+    QPushButton *apply() const { return preferences->buttonBox->button(QDialogButtonBox::Apply); }
+    static bool okEnabled(const QDialog &dialog)
+    {
+        return dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled();
+    }
+
 private slots:
     void init()
     {
         SandboxTest::init();
-        Sandbox::setUserEnvironment({"EXTRA=1", "ZED=1"});
         Sandbox::writeFile(Sandbox::system("/etc/profile"), "export SHELL=/bin/bash\n");
-        window.reset(new Eve);
+        restart("tester");
         window->show();
     }
     void cleanup()
     {
+        preferences.reset();
         window.reset();
         SandboxTest::cleanup();
     }
@@ -87,10 +113,6 @@ private slots:
                  QStringList({"EXTRA", "HOME", "LOGNAME", "PATH", "SHELL", "ZED"}));
         QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled());
         QVERIFY(!editingEnabled());
-        QStringList menus; // the features' Tools menu comes once, before Help
-        for (const QAction *menu : window->menuBar()->actions())
-            menus << menu->text();
-        QCOMPARE(menus, QStringList({"&File", "&Edit", "&Tools", "&Help"}));
 
         window->resize(700, 500);
         window->toolBar->hide();
@@ -157,18 +179,6 @@ private slots:
         QTEST(editingEnabled(), "editingOn");
     }
 
-    void clicksAndKeysInTheTableEnableEditing()
-    {
-        QVERIFY(QTest::qWaitForWindowExposed(window.data()));
-        const QModelIndex path = model()->index(rowOf(*model(), "PATH"), 0);
-        QTest::mouseClick(window->tableView->viewport(), Qt::LeftButton, {},
-                          window->tableView->visualRect(path).center());
-        QVERIFY(editingEnabled());
-        window->actionEdit->setEnabled(false);
-        QTest::keyClick(window->tableView, Qt::Key_Down);
-        QVERIFY(window->actionEdit->isEnabled());
-    }
-
     void resetAsksFirst()
     {
         changeExtra();
@@ -229,7 +239,7 @@ private slots:
     {
         answerer->addAction([](QWidget *dialog) {
             auto *editor = qobject_cast<uEditor *>(dialog);
-            QTest::keyClicks(editor->variableEdit, "FOO");
+            QTest::keyClicks(editor->variableEdit, "FOO .$="); // takes only name characters
             QTest::keyClicks(editor->valueEdit, "bar");
             ModalAnswerer::clickButton(editor, "OK");
         });
@@ -264,10 +274,12 @@ private slots:
     {
         QString userFilesTitle;
         const auto accept = [&userFilesTitle](QWidget *dialog) {
-            userFilesTitle = dialog->findChild<QGroupBox *>("groupBox_2")->title();
+            userFilesTitle = qobject_cast<preferencesDialog *>(dialog)->groupBox_2->title();
             static_cast<QDialog *>(dialog)->accept();
         };
         const QString offer = "Apply changes now?: Do you want to save data and apply changes now?";
+        const QString saved = "Changes were saved: Changes were saved and will be applied after "
+                              "restarting a session!";
         changeExtra();
         answerer->addAction(accept);
         QCOMPARE(run(window->actionPreferences, {"Cancel"}).value(1), offer);
@@ -279,6 +291,64 @@ private slots:
         QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1"); // the environment's
         QVERIFY(!window->isModified());
         QCOMPARE(status(), qMakePair(QString("New settings have been applied!"), 2000));
+    }
+
+    // In the edit dialog of a critical variable, and when checked in a new one.
+    void criticalBoxLocksTheValue()
+    {
+        select("SHELL");
+        uEditor edited(window.data()), added(window.data(), 0);
+        added.vipCheck->click();
+        for (uEditor *editor : {&edited, &added}) {
+            QVERIFY(editor->vipCheck->isChecked() && !editor->valueEdit->isEnabled());
+            editor->vipCheck->click();
+            QVERIFY(editor->valueEdit->isEnabled());
+        }
+        QVERIFY2(okEnabled(edited), "unchecking is a change");
+    }
+
+    void onlyRootMayChooseSystemScopeAndSystemFiles()
+    {
+        for (const QString login : {"tester", "root"}) {
+            restart(login);
+            QCOMPARE(uEditor(window.data(), 0).checkBox->isEnabled(), login == "root");
+            openPreferences();
+            QCOMPARE(list("system")->isEnabled(), login == "root");
+            QCOMPARE(button("system", "Add")->isEnabled(), login == "root");
+            QVERIFY(button("user", "Add")->isEnabled());
+        }
+    }
+
+    // Apply stores and keeps the dialog open; the user list is stored by shell kind.
+    void applyAndOkStoreTheLists_data()
+    {
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QString>("userKey"); // empty: the user list is not stored
+        QTest::addRow("bash stores the user list under bash") << "bash" << QString("bash");
+        QTest::addRow("tcsh stores the user list under tcsh") << "tcsh" << QString("tcsh");
+        QTest::addRow("another shell does not store the user list") << "sh" << QString();
+    }
+    void applyAndOkStoreTheLists()
+    {
+        QFETCH(QString, shell);
+        QFETCH(QString, userKey);
+        restart("root", shell);
+        openPreferences();
+        QVERIFY(!button("system", "Remove")->isEnabled() && !okEnabled(*preferences));
+        list("system")->setCurrentRow(0);
+        button("system", "Remove")->click();
+        apply()->click();
+        QVERIFY(!apply()->isEnabled() && okEnabled(*preferences));
+        QCOMPARE(QSettings().value("configFiles/system").toStringList(), QStringList({"b", "c"}));
+        list("user")->setCurrentRow(2);
+        button("user", "Remove")->click();
+        preferences->buttonBox->button(QDialogButtonBox::Ok)->click();
+        QCOMPARE(preferences->result(), int(QDialog::Accepted));
+        QCOMPARE(model()->systemFiles, QStringList({"b", "c"}));
+        QCOMPARE(model()->userFiles, QStringList({"a", "b"}));
+        for (const QString key : {"bash", "tcsh"})
+            QCOMPARE(QSettings().value("configFiles/" + key).toStringList(),
+                     key == userKey ? QStringList({"a", "b"}) : QStringList());
     }
 };
 
