@@ -8,18 +8,11 @@
 #include <QAccessible>
 #include <QTemporaryDir>
 
-// Ready for a desktop: a screen reader reads a button's text or accessible
-// name, a sighted user hovering an icon-only button its tool tip; every icon
-// the editor asks for comes from the theme or a fallback theme.
+// Ready for a desktop: every button says what it is, to a screen reader and
+// on hovering, and every icon comes from the theme or a fallback theme.
 class TestDesktop : public SandboxTest
 {
     Q_OBJECT
-
-    static QString spokenName(QWidget *widget)
-    {
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        return accessible ? accessible->text(QAccessible::Name) : QString();
-    }
 
 private slots:
     void everyVisibleButtonSaysWhatItIs()
@@ -52,6 +45,9 @@ private slots:
     {
         Eve window;
         preferencesDialog dialog(&window, window.eveModel());
+        const auto spokenName = [](QWidget *widget) {
+            return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+        };
         QCOMPARE(spokenName(dialog.systemFilesList), dialog.groupBox_3->title());
         QCOMPARE(spokenName(dialog.userFilesList), dialog.groupBox_2->title());
     }

@@ -76,14 +76,6 @@ class TestEve : public SandboxTest
         model()->systemFiles = model()->userFiles = QStringList{"a", "b", "c"};
         preferences.reset(new preferencesDialog(window.data(), model()));
     }
-    QListWidget *list(const QString &which) const
-    {
-        return preferences->findChild<QListWidget *>(which + "FilesList");
-    }
-    QPushButton *button(const QString &which, const QString &role) const
-    {
-        return preferences->findChild<QPushButton *>(which + role + "Button");
-    }
     QPushButton *apply() const { return preferences->buttonBox->button(QDialogButtonBox::Apply); }
     static bool okEnabled(const QDialog &dialog)
     {
@@ -111,8 +103,8 @@ private slots:
         QCOMPARE(columnWidths(*window), QList<int>({230, 200, 90, 870, 0, 0, 0}));
         QCOMPARE(namesOf(*model()),
                  QStringList({"EXTRA", "HOME", "LOGNAME", "PATH", "SHELL", "ZED"}));
-        QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled());
-        QVERIFY(!editingEnabled());
+        QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled() &&
+                !editingEnabled());
 
         window->resize(700, 500);
         window->toolBar->hide();
@@ -225,9 +217,6 @@ private slots:
         while (model()->rowCount() > 1)
             model()->removeRows(0, 1);
         QVERIFY2(!window->actionEdit->isEnabled(), "the model's disableDel() turns editing off");
-        QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-        QVERIFY2(static_cast<QObject *>(window.data())->eventFilter(window->tableView, &up),
-                 "a table of one row takes no keys");
         select("ZED");
         window->actionDelete->setEnabled(true);
         QCOMPARE(run(window->actionDelete), QStringList());
@@ -245,7 +234,6 @@ private slots:
         });
         QApplication::setActiveWindow(window.data()); // shortcuts go to the active window
         QTest::keySequence(window->tableView, QKeySequence("Ins"));
-        QCOMPARE(answerer->seen.value(0).title, "Create new variable");
         QCOMPARE(recordOf(*model(), "FOO"),
                  QStringList({"FOO", "bar", "System", "", "local", "", "bar"}));
         QVERIFY(window->isModified() && window->actionDelete->isEnabled());
@@ -313,9 +301,9 @@ private slots:
             restart(login);
             QCOMPARE(uEditor(window.data(), 0).checkBox->isEnabled(), login == "root");
             openPreferences();
-            QCOMPARE(list("system")->isEnabled(), login == "root");
-            QCOMPARE(button("system", "Add")->isEnabled(), login == "root");
-            QVERIFY(button("user", "Add")->isEnabled());
+            QCOMPARE(preferences->systemFilesList->isEnabled(), login == "root");
+            QCOMPARE(preferences->systemAddButton->isEnabled(), login == "root");
+            QVERIFY(preferences->userAddButton->isEnabled());
         }
     }
 
@@ -334,14 +322,14 @@ private slots:
         QFETCH(QString, userKey);
         restart("root", shell);
         openPreferences();
-        QVERIFY(!button("system", "Remove")->isEnabled() && !okEnabled(*preferences));
-        list("system")->setCurrentRow(0);
-        button("system", "Remove")->click();
+        QVERIFY(!preferences->systemRemoveButton->isEnabled() && !okEnabled(*preferences));
+        preferences->systemFilesList->setCurrentRow(0);
+        preferences->systemRemoveButton->click();
         apply()->click();
         QVERIFY(!apply()->isEnabled() && okEnabled(*preferences));
         QCOMPARE(QSettings().value("configFiles/system").toStringList(), QStringList({"b", "c"}));
-        list("user")->setCurrentRow(2);
-        button("user", "Remove")->click();
+        preferences->userFilesList->setCurrentRow(2);
+        preferences->userRemoveButton->click();
         preferences->buttonBox->button(QDialogButtonBox::Ok)->click();
         QCOMPARE(preferences->result(), int(QDialog::Accepted));
         QCOMPARE(model()->systemFiles, QStringList({"b", "c"}));
