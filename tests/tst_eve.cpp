@@ -1,12 +1,9 @@
 #include "eve.h"
 #include "evemodel.h"
-#include "orvintegration.h"
+#include "preferencesdialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
 #include "ueditor.h"
-
-#include <QGroupBox>
-#include <QMenuBar>
 
 static QList<int> columnWidths(const Eve &window)
 {
@@ -16,17 +13,27 @@ static QList<int> columnWidths(const Eve &window)
     return widths;
 }
 
-// The session of every test: EXTRA and ZED, ordinary variables, and HOME,
-// LOGNAME, PATH and SHELL, critical ones; /etc/profile exports SHELL. The
-// table starts sorted from A to Z, so EXTRA is the first row.
+// The main window, its commands and its dialogs. The session of every test:
+// EXTRA and ZED, ordinary variables, and HOME, LOGNAME, PATH and SHELL,
+// critical ones; /etc/profile exports SHELL. The table starts sorted from A
+// to Z, so EXTRA is the first row.
 class TestEve : public SandboxTest
 {
     Q_OBJECT
 
     QScopedPointer<Eve> window;
+    QScopedPointer<preferencesDialog> preferences;
     const QString bashrc = Sandbox::home() + "/.bashrc";
 
     EveModel *model() const { return window->eveModel(); }
+    void restart(const QString &login, const QString &shell = "bash")
+    {
+        preferences.reset();
+        window.reset();
+        Sandbox::setUserEnvironment(
+            {"EXTRA=1", "ZED=1", "LOGNAME=" + login, "SHELL=/bin/" + shell});
+        window.reset(new Eve);
+    }
     void select(const QString &name) { window->tableView->selectRow(rowOf(*model(), name)); }
     int selectedRow() const // -1: none
     {
@@ -63,49 +70,42 @@ class TestEve : public SandboxTest
                 timer && timer->isActive() ? timer->interval() : 0};
     }
 
+    // The preferences dialog over the system files a, b and c and the same user files.
+    void openPreferences()
+    {
+        model()->systemFiles = model()->userFiles = QStringList{"a", "b", "c"};
+        preferences.reset(new preferencesDialog(window.data(), model()));
+    }
+    QPushButton *apply() const { return preferences->buttonBox->button(QDialogButtonBox::Apply); }
+    static bool okEnabled(const QDialog &dialog)
+    {
+        return dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled();
+    }
+
 private slots:
     void init()
     {
         SandboxTest::init();
-        Sandbox::setUserEnvironment({"EXTRA=1", "ZED=1"});
         Sandbox::writeFile(Sandbox::system("/etc/profile"), "export SHELL=/bin/bash\n");
-        window.reset(new Eve);
+        restart("tester");
         window->show();
     }
     void cleanup()
     {
+        preferences.reset();
         window.reset();
         SandboxTest::cleanup();
     }
 
-    void firstStartShowsTheDefaults()
+    void firstStartShowsTheDefaultsAndTheNextRestoresTheLastClose()
     {
         QCOMPARE(window->size(), QSize(935, 650));
         QCOMPARE(columnWidths(*window), QList<int>({230, 200, 90, 870, 0, 0, 0}));
         QCOMPARE(namesOf(*model()),
                  QStringList({"EXTRA", "HOME", "LOGNAME", "PATH", "SHELL", "ZED"}));
-        QCOMPARE(window->tableView->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
-        for (QAction *action :
-             {window->actionSave, window->actionReset, window->actionDelete, window->actionEdit})
-            QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
-        QCOMPARE(window->tableView->actions(),
-                 QList<QAction *>({window->actionAdd, window->actionDelete, window->actionEdit}));
-        QStringList menus; // the features' Tools menu comes once, before Help
-        for (const QAction *menu : window->menuBar()->actions())
-            menus << menu->text();
-        QCOMPARE(menus, QStringList({"&File", "&Edit", "&Tools", "&Help"}));
-    }
+        QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled() &&
+                !editingEnabled());
 
-    void aboutBoxNamesProgramVersionAndDescription()
-    {
-        orvInit("9.8.7", "Edits <environment> variables");
-        QCOMPARE(run(window->findChild<OrvHelpMenu *>()->actions().value(0), {"OK"}),
-                 QStringList({"About tst_eve: <p><b>tst_eve</b> 9.8.7</p>"
-                              "<p>Edits &lt;environment&gt; variables</p>"}));
-    }
-
-    void nextStartRestoresSizeStateAndPositiveWidths()
-    {
         window->resize(700, 500);
         window->toolBar->hide();
         window->tableView->setColumnWidth(2, 120);
@@ -148,19 +148,14 @@ private slots:
         QTest::addColumn<bool>("swallowed");
         QTest::addColumn<int>("selectedRow"); // -1: none
         QTest::addColumn<bool>("editingOn");
-        const int up = Qt::Key_Up;
-        QTest::addRow("Up on the second row selects the first") << up << 1 << false << 0 << true;
-        QTest::addRow("Up further down selects the current row") << up << 3 << false << 3 << true;
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab})
-            QTest::addRow("%s is swallowed", qPrintable(QKeySequence(key).toString()))
-                << int(key) << 3 << true << -1 << false;
-        for (const Qt::Key key :
-             {Qt::Key_PageUp, Qt::Key_Home, Qt::Key_Left, Qt::Key_Right, Qt::Key_Space})
-            QTest::addRow("%s selects the current row", qPrintable(QKeySequence(key).toString()))
-                << int(key) << 3 << false << 3 << true;
-        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End})
-            QTest::addRow("%s only enables editing", qPrintable(QKeySequence(key).toString()))
-                << int(key) << 3 << false << -1 << true;
+        QTest::addRow("Up on the second row selects the first")
+            << int(Qt::Key_Up) << 1 << false << 0 << true;
+        QTest::addRow("Up further down selects the current row")
+            << int(Qt::Key_Up) << 3 << false << 3 << true;
+        QTest::addRow("Tab is swallowed") << int(Qt::Key_Tab) << 3 << true << -1 << false;
+        QTest::addRow("Home selects the current row")
+            << int(Qt::Key_Home) << 3 << false << 3 << true;
+        QTest::addRow("Down only enables editing") << int(Qt::Key_Down) << 3 << false << -1 << true;
     }
     void keyFilterActsBeforeTheViewMoves()
     {
@@ -176,48 +171,16 @@ private slots:
         QTEST(editingEnabled(), "editingOn");
     }
 
-    void clicksAndKeysInTheTableEnableEditing()
-    {
-        QVERIFY(QTest::qWaitForWindowExposed(window.data()));
-        const QModelIndex path = model()->index(rowOf(*model(), "PATH"), 0);
-        QTest::mouseClick(window->tableView->viewport(), Qt::LeftButton, {},
-                          window->tableView->visualRect(path).center());
-        QVERIFY(editingEnabled());
-        window->actionEdit->setEnabled(false);
-        QTest::keyClick(window->tableView, Qt::Key_Down);
-        QVERIFY(window->actionEdit->isEnabled());
-    }
-
-    void saveReportsItsOutcome()
-    {
-        changeExtra();
-        Sandbox::blockPath(bashrc);
-        QCOMPARE(run(window->actionSave, {"OK", "OK"}).value(1),
-                 "Attention!: Unable to save changes - file access denied!");
-        QCOMPARE(status(), qMakePair(QString(), 0));
-        QVERIFY(window->isModified() && window->actionSave->isEnabled());
-
-        QDir(bashrc).removeRecursively();
-        QCOMPARE(run(window->actionSave, {"OK"}),
-                 QStringList({"Changes were saved: Changes were saved and will be applied after "
-                              "restarting a session!"}));
-        QCOMPARE(status(), qMakePair(QString("Changes were saved successfully!"), 5000));
-        QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled());
-        QCOMPARE(Sandbox::readFile(bashrc), "export EXTRA=2\n");
-    }
-
     void resetAsksFirst()
     {
         changeExtra();
         const QStringList question{"Attention!: Do you really want to reset?"};
         QCOMPARE(run(window->actionReset, {"No"}), question);
-        QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "2");
         QVERIFY(window->isModified());
         QCOMPARE(run(window->actionReset, {"Yes"}), question);
         QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1");
         QVERIFY(!window->isModified());
         QCOMPARE(status(), qMakePair(QString("All changes were reseted!"), 5000));
-        QVERIFY(window->tableView->isEnabled());
     }
 
     void deleteAsksAccordingToTheRow_data()
@@ -254,9 +217,6 @@ private slots:
         while (model()->rowCount() > 1)
             model()->removeRows(0, 1);
         QVERIFY2(!window->actionEdit->isEnabled(), "the model's disableDel() turns editing off");
-        QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-        QVERIFY2(static_cast<QObject *>(window.data())->eventFilter(window->tableView, &up),
-                 "a table of one row takes no keys");
         select("ZED");
         window->actionDelete->setEnabled(true);
         QCOMPARE(run(window->actionDelete), QStringList());
@@ -268,13 +228,12 @@ private slots:
     {
         answerer->addAction([](QWidget *dialog) {
             auto *editor = qobject_cast<uEditor *>(dialog);
-            QTest::keyClicks(editor->variableEdit, "FOO");
+            QTest::keyClicks(editor->variableEdit, "FOO .$="); // takes only name characters
             QTest::keyClicks(editor->valueEdit, "bar");
             ModalAnswerer::clickButton(editor, "OK");
         });
         QApplication::setActiveWindow(window.data()); // shortcuts go to the active window
         QTest::keySequence(window->tableView, QKeySequence("Ins"));
-        QCOMPARE(answerer->seen.value(0).title, "Create new variable");
         QCOMPARE(recordOf(*model(), "FOO"),
                  QStringList({"FOO", "bar", "System", "", "local", "", "bar"}));
         QVERIFY(window->isModified() && window->actionDelete->isEnabled());
@@ -298,37 +257,86 @@ private slots:
         QVERIFY(window->isModified() && window->actionEdit->isEnabled());
     }
 
-    void acceptedPreferencesReloadTheTable()
+    // Accepted preferences reload the table, after offering to save what is pending.
+    void acceptedPreferencesOfferToSaveAndReload()
     {
         QString userFilesTitle;
-        answerer->addAction([&userFilesTitle](QWidget *dialog) {
-            userFilesTitle = dialog->findChild<QGroupBox *>("groupBox_2")->title();
-            static_cast<QDialog *>(dialog)->accept();
-        });
-        model()->insertRows(0, 1, {"GONE", "1"});
-        run(window->actionPreferences);
-        QCOMPARE(userFilesTitle, "User Config Files (bash)");
-        QCOMPARE(rowOf(*model(), "GONE"), -1);
-        QCOMPARE(status(), qMakePair(QString("New settings have been applied!"), 2000));
-    }
-
-    void preferencesWithUnsavedChangesOfferToSave()
-    {
-        const auto accept = [](QWidget *dialog) {
+        const auto accept = [&userFilesTitle](QWidget *dialog) {
+            userFilesTitle = qobject_cast<preferencesDialog *>(dialog)->groupBox_2->title();
             static_cast<QDialog *>(dialog)->accept();
         };
         const QString offer = "Apply changes now?: Do you want to save data and apply changes now?";
+        const QString saved = "Changes were saved: Changes were saved and will be applied after "
+                              "restarting a session!";
         changeExtra();
         answerer->addAction(accept);
         QCOMPARE(run(window->actionPreferences, {"Cancel"}).value(1), offer);
         QVERIFY2(window->isModified(), "Cancel leaves the changes pending");
         answerer->addAction(accept);
-        QCOMPARE(run(window->actionPreferences, {"OK", "OK"}).mid(1, 2),
-                 QStringList({offer, "Changes were saved: Changes were saved and will be applied "
-                                     "after restarting a session!"}));
+        QCOMPARE(run(window->actionPreferences, {"OK", "OK"}).mid(1), QStringList({offer, saved}));
+        QCOMPARE(userFilesTitle, "User Config Files (bash)");
         QCOMPARE(Sandbox::readFile(bashrc), "export EXTRA=2\n");
+        QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1"); // the environment's
         QVERIFY(!window->isModified());
         QCOMPARE(status(), qMakePair(QString("New settings have been applied!"), 2000));
+    }
+
+    // In the edit dialog of a critical variable, and when checked in a new one.
+    void criticalBoxLocksTheValue()
+    {
+        select("SHELL");
+        uEditor edited(window.data()), added(window.data(), 0);
+        added.vipCheck->click();
+        for (uEditor *editor : {&edited, &added}) {
+            QVERIFY(editor->vipCheck->isChecked() && !editor->valueEdit->isEnabled());
+            editor->vipCheck->click();
+            QVERIFY(editor->valueEdit->isEnabled());
+        }
+        QVERIFY2(okEnabled(edited), "unchecking is a change");
+    }
+
+    void onlyRootMayChooseSystemScopeAndSystemFiles()
+    {
+        for (const QString login : {"tester", "root"}) {
+            restart(login);
+            QCOMPARE(uEditor(window.data(), 0).checkBox->isEnabled(), login == "root");
+            openPreferences();
+            QCOMPARE(preferences->systemFilesList->isEnabled(), login == "root");
+            QCOMPARE(preferences->systemAddButton->isEnabled(), login == "root");
+            QVERIFY(preferences->userAddButton->isEnabled());
+        }
+    }
+
+    // Apply stores and keeps the dialog open; the user list is stored by shell kind.
+    void applyAndOkStoreTheLists_data()
+    {
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QString>("userKey"); // empty: the user list is not stored
+        QTest::addRow("bash stores the user list under bash") << "bash" << QString("bash");
+        QTest::addRow("tcsh stores the user list under tcsh") << "tcsh" << QString("tcsh");
+        QTest::addRow("another shell does not store the user list") << "sh" << QString();
+    }
+    void applyAndOkStoreTheLists()
+    {
+        QFETCH(QString, shell);
+        QFETCH(QString, userKey);
+        restart("root", shell);
+        openPreferences();
+        QVERIFY(!preferences->systemRemoveButton->isEnabled() && !okEnabled(*preferences));
+        preferences->systemFilesList->setCurrentRow(0);
+        preferences->systemRemoveButton->click();
+        apply()->click();
+        QVERIFY(!apply()->isEnabled() && okEnabled(*preferences));
+        QCOMPARE(QSettings().value("configFiles/system").toStringList(), QStringList({"b", "c"}));
+        preferences->userFilesList->setCurrentRow(2);
+        preferences->userRemoveButton->click();
+        preferences->buttonBox->button(QDialogButtonBox::Ok)->click();
+        QCOMPARE(preferences->result(), int(QDialog::Accepted));
+        QCOMPARE(model()->systemFiles, QStringList({"b", "c"}));
+        QCOMPARE(model()->userFiles, QStringList({"a", "b"}));
+        for (const QString key : {"bash", "tcsh"})
+            QCOMPARE(QSettings().value("configFiles/" + key).toStringList(),
+                     key == userKey ? QStringList({"a", "b"}) : QStringList());
     }
 };
 

@@ -14,14 +14,6 @@ class TestEveModel : public SandboxTest
     {
         return model->index(rowOf(*model, name), column);
     }
-    // A record as loading hands it to the catalogue; its Vip shows whether the
-    // catalogue wrote one.
-    QStringList described(const QString &name) const
-    {
-        QStringList record{name, "value", "System", "", "local", "kept", ""};
-        model->describeKnownVariable(record);
-        return record;
-    }
 
 private slots:
     void init()
@@ -38,7 +30,9 @@ private slots:
 
     void rowsCarryNoNumbers() { QVERIFY(!model->headerData(1, Qt::Vertical).isValid()); }
 
-    void onlyNameValueAndDescriptionAreEditable()
+    // Name, value and description are editable; disableDel() comes when at
+    // most one row is left; an empty model has no columns, flags or data.
+    void flagsAndSignalsFollowTheRowsLeft()
     {
         QList<int> editable;
         for (int column = 0; column < EveModel::ColumnCount; ++column) {
@@ -46,51 +40,22 @@ private slots:
                 editable << column;
         }
         QCOMPARE(editable, QList<int>({0, 1, 3}));
-    }
-
-    void emptyModelHasNoColumnsFlagsOrData()
-    {
+        QSignalSpy disableDel(model.data(), &EveModel::disableDel);
         const QModelIndex formerCell = model->index(0, 0);
-        while (model->rowCount() > 0)
-            model->removeRows(0, 1);
+        QList<int> counts;
+        while (model->rowCount() > 0 && model->removeRows(0, 1))
+            counts << disableDel.count();
+        QCOMPARE(counts, QList<int>({0, 0, 0, 1, 2}));
         QCOMPARE(model->columnCount(), 0);
         QCOMPARE(model->flags(formerCell), Qt::NoItemFlags);
         QVERIFY(!model->data(formerCell).isValid());
     }
 
-    // The status tip is the assignment; the tool tip a table of name, value and origin.
-    void hoverTextsShowTheVariable_data()
-    {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("origin");
-        QTest::addColumn<QString>("shownValue"); // empty: no line for the value
-        const QString x(80, 'x'), paths = "/usr/local/bin:/usr/bin:/bin:/usr/local/games:/games";
-        QTest::addRow("50 characters are shown whole") << x.left(50) << "/o" << x.left(50);
-        QTest::addRow("80 characters are cut after 51") << x << "/o" << x.left(51) + "...";
-        QTest::addRow("a path list gets spaces before its colons")
-            << paths << "/o" << QString(paths).replace(":", " :");
-        QTest::addRow("an empty value has no line") << QString("") << "/o" << QString();
-        QTest::addRow("an empty origin has no line") << QString("vim") << "" << QString("vim");
-    }
-    void hoverTextsShowTheVariable()
-    {
-        QFETCH(QString, value);
-        QFETCH(QString, origin);
-        QFETCH(QString, shownValue);
-        model->insertRows(0, 1, {"X", value, "a description is never shown"});
-        model->setData(cell("X", EveModel::OriginColumn), origin);
-        QCOMPARE(cell("X", 3).data(Qt::StatusTipRole).toString(), "X=" + value);
-        const auto line = [](const QString &label, const QString &text) {
-            return text.isEmpty() ? "" : "<tr><td><b>" + label + "</b>: " + text + "</td></tr>";
-        };
-        QCOMPARE(cell("X", 0).data(Qt::ToolTipRole).toString(),
-                 "<table>" + line("Variable", "X") + line("Value", shownValue) +
-                     line("Origin", origin) + "</table>");
-    }
-
     // Only Yes lets the name or value of SHELL change; its description changes unasked.
+    // The first change of a row keeps the text before it, whichever cell it was in.
     void cellEditOfCriticalVariableAsksFirst()
     {
+        QSignalSpy changes(model.data(), &EveModel::dataChanged);
         answerer->addAnswer("Cancel");
         QVERIFY(!model->setData(cell("SHELL", EveModel::ValueColumn), "/bin/sh"));
         answerer->addAnswer("No");
@@ -98,45 +63,21 @@ private slots:
         QVERIFY(model->setData(cell("SHELL", EveModel::DescriptionColumn), "mine"));
         answerer->addAnswer("Yes");
         QVERIFY(model->setData(cell("SHELL", EveModel::ValueColumn), "/bin/zsh"));
+        QVERIFY(!model->setData(cell("SHELL", EveModel::ValueColumn), "/bin/ed", Qt::DisplayRole));
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(changes.at(1).mid(0, 2), QVariantList({cell("SHELL", 1), cell("SHELL", 1)}));
         QCOMPARE(answerer->seen.value(0).text, "Really change the value of system variable?");
         QCOMPARE(recordOf(*model, "SHELL"), QStringList({"SHELL", "/bin/zsh", "System", "mine",
                                                          "local", "true", "Your shell"}));
     }
 
-    void previousValueKeepsTheTextBeforeTheFirstEdit()
-    {
-        QSignalSpy changes(model.data(), &EveModel::dataChanged);
-        QVERIFY(model->setData(cell("EDITOR", 1), "emacs"));
-        QVERIFY(model->setData(cell("EDITOR", 1), "nano"));
-        QVERIFY(!model->setData(cell("EDITOR", 1), "ed", Qt::DisplayRole));
-        QCOMPARE(recordOf(*model, "EDITOR").mid(1),
-                 QStringList({"nano", "System", "", "local", "", "vim"}));
-        QCOMPARE(changes.count(), 2);
-        QCOMPARE(changes.at(1).mid(0, 2), QVariantList({cell("EDITOR", 1), cell("EDITOR", 1)}));
-    }
-
-    void recordUpdateReplacesFiveFieldsUnasked()
-    {
-        QSignalSpy changes(model.data(), &EveModel::dataChanged);
-        const int row = rowOf(*model, "SHELL");
-        model->setData(model->index(row, 2), "ZSH", "/bin/zsh", "d", "global", "", "",
-                       Qt::EditRole);
-        QCOMPARE(recordOf(*model, "ZSH"),
-                 QStringList({"ZSH", "/bin/zsh", "System", "d", "global", "", "/bin/bash"}));
-        QCOMPARE(changes.count(), 1);
-        QCOMPARE(changes.at(0).mid(0, 2),
-                 QVariantList({model->index(row, 0), model->index(row, 6)}));
-    }
-
     void insertAppendsOneRow()
     {
         QVERIFY(model->insertRows(0, 3));
-        QVERIFY(model->insertRows(0, 1, {"N", "V"}));
         QVERIFY(model->insertRows(0, 1, {"S", "V", "D", "global"}));
-        QCOMPARE(namesOf(*model).mid(5), QStringList({"__new__", "N", "S"}));
+        QCOMPARE(namesOf(*model).mid(5), QStringList({"__new__", "S"}));
         QCOMPARE(recordOf(*model, "__new__"),
                  QStringList({"__new__", "VALUE", "System", "", "", "", ""}));
-        QCOMPARE(recordOf(*model, "N"), QStringList({"N", "V", "System", "", "", "", "V"}));
         QCOMPARE(recordOf(*model, "S"), QStringList({"S", "V", "System", "D", "global", "", "V"}));
     }
 
@@ -154,15 +95,6 @@ private slots:
         QCOMPARE(model->deletedRows.value(0).value(0), "EDITOR");
     }
 
-    void disableDelComesWhenAtMostOneRowIsLeft()
-    {
-        QSignalSpy disableDel(model.data(), &EveModel::disableDel);
-        QList<int> counts;
-        while (model->rowCount() > 0 && model->removeRows(0, 1))
-            counts << disableDel.count();
-        QCOMPARE(counts, QList<int>({0, 0, 0, 1, 2}));
-    }
-
     void catalogueDescribesEveryWellKnownVariable_data()
     {
         QTest::addColumn<QString>("name");
@@ -176,20 +108,19 @@ private slots:
             QTest::addRow("%s is %s", qPrintable(entry[0]), qPrintable(entry[1]))
                 << entry[0] << (entry[1] == "critical" ? "true" : "kept") << entry[2];
         }
+        for (const QString name : {"EDITOR", "Path", "PATH "})
+            QTest::addRow("\"%s\" is unknown", qPrintable(name)) << name << "kept" << QString();
     }
+    // Loading hands each record to the catalogue; its Vip shows whether the
+    // catalogue wrote one.
     void catalogueDescribesEveryWellKnownVariable()
     {
         QFETCH(QString, name);
-        const QStringList record = described(name);
+        QStringList record{name, "value", "System", "", "local", "kept", ""};
+        model->describeKnownVariable(record);
         QTEST(record.at(EveModel::DescriptionColumn), "description");
         QTEST(record.at(EveModel::VipColumn), "vip");
-    }
-
-    void catalogueLeavesOtherNamesAlone()
-    {
-        for (const QString name : {"EDITOR", "Path", "PATH "})
-            QCOMPARE(described(name),
-                     QStringList({name, "value", "System", "", "local", "kept", ""}));
+        QCOMPARE(record.mid(0, 3), QStringList({name, "value", "System"}));
     }
 };
 

@@ -1,17 +1,58 @@
 #include "eve.h"
+#include "evemodel.h"
 #include "iconfallback.h"
 #include "preferencesdialog.h"
-#include "sandbox.h"
+#include "sandboxtest.h"
+#include "ueditor.h"
 
+#include <QAccessible>
 #include <QTemporaryDir>
-#include <QtTest>
 
-class TestIconFallback : public QObject
+// Ready for a desktop: every button says what it is, to a screen reader and
+// on hovering, and every icon comes from the theme or a fallback theme.
+class TestDesktop : public SandboxTest
 {
     Q_OBJECT
 
 private slots:
-    void choosesTheVariantForThePalette_data()
+    void everyVisibleButtonSaysWhatItIs()
+    {
+        Eve window;
+        window.tableView->setCurrentIndex(window.eveModel()->index(0, 0));
+        uEditor newVariable(&window, 0);
+        uEditor editVariable(&window);
+        preferencesDialog preferences(&window, window.eveModel());
+        QStringList unlabelled;
+        for (QWidget *shown :
+             QList<QWidget *>{&window, &newVariable, &editVariable, &preferences}) {
+            shown->show();
+            for (QAbstractButton *button : shown->findChildren<QAbstractButton *>()) {
+                // Assistive tools meet a table's corner button as a cell of the table.
+                if (!button->isVisible() || !button->text().isEmpty() ||
+                    qobject_cast<QAbstractItemView *>(button->parentWidget()))
+                    continue;
+                const QString who = shown->objectName() + ": " + button->objectName();
+                if (button->accessibleName().isEmpty())
+                    unlabelled << who + " shows only an icon and has no accessible name";
+                if (button->toolTip().isEmpty())
+                    unlabelled << who + " shows only an icon and has no tool tip";
+            }
+        }
+        QVERIFY2(unlabelled.isEmpty(), qPrintable(unlabelled.join("; ")));
+    }
+
+    void preferencesListsAreNamedAfterTheirGroups()
+    {
+        Eve window;
+        preferencesDialog dialog(&window, window.eveModel());
+        const auto spokenName = [](QWidget *widget) {
+            return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+        };
+        QCOMPARE(spokenName(dialog.systemFilesList), dialog.groupBox_3->title());
+        QCOMPARE(spokenName(dialog.userFilesList), dialog.groupBox_2->title());
+    }
+
+    void fallbackThemeFitsThePalette_data()
     {
         QTest::addColumn<QColor>("window");
         QTest::addColumn<QStringList>("installed");
@@ -19,12 +60,12 @@ private slots:
         const QColor light(239, 240, 241), dark(49, 54, 59);
         QTest::addRow("a dark palette takes Breeze Dark")
             << dark << QStringList{"breeze", "breeze-dark"} << "breeze-dark";
-        QTest::addRow("a light palette does not take Breeze Dark")
-            << light << QStringList{"breeze-dark"} << "";
+        QTest::addRow("a light palette takes Breeze beside Breeze Dark")
+            << light << QStringList{"breeze-dark", "breeze"} << "breeze";
         QTest::addRow("a dark palette without Breeze Dark takes Breeze")
             << dark << QStringList{"breeze"} << "breeze";
     }
-    void choosesTheVariantForThePalette()
+    void fallbackThemeFitsThePalette()
     {
         QFETCH(QColor, window);
         QFETCH(QStringList, installed);
@@ -36,13 +77,11 @@ private slots:
         }
         QPalette palette;
         palette.setColor(QPalette::Window, window);
-
         QTEST(fallbackIconTheme(palette, {first.path(), second.path()}), "expected");
     }
 
     void theRecommendedThemeHasEveryIconTheEditorUses()
     {
-        Sandbox sandbox;
         QIcon::setThemeSearchPaths({"/usr/local/share/icons", "/usr/share/icons"});
         QIcon::setThemeName("hicolor");    // a desktop without a theme of its own
         QIcon::setFallbackSearchPaths({}); // no unthemed icons from /usr/share/pixmaps
@@ -51,7 +90,6 @@ private slots:
         installIconFallback();
         Eve window;
         preferencesDialog dialog(&window, window.eveModel());
-
         QStringList missing;
         for (QAction *action : window.findChildren<QAction *>(QRegularExpression("^action")))
             if (action->icon().isNull())
@@ -67,5 +105,5 @@ private slots:
     }
 };
 
-ORV_SANDBOX_TEST_MAIN(TestIconFallback)
-#include "tst_iconfallback.moc"
+ORV_SANDBOX_TEST_MAIN(TestDesktop)
+#include "tst_desktop.moc"
