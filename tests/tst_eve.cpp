@@ -3,7 +3,10 @@
 #include "preferencesdialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
+#include "toolsmenu.h"
 #include "ueditor.h"
+
+#include <QMenuBar>
 
 static QList<int> columnWidths(const Eve &window)
 {
@@ -105,6 +108,8 @@ private slots:
                  QStringList({"EXTRA", "HOME", "LOGNAME", "PATH", "SHELL", "ZED"}));
         QVERIFY(!window->actionSave->isEnabled() && !window->actionReset->isEnabled() &&
                 !editingEnabled());
+        const QList<QAction *> menus = window->menuBar()->actions();
+        QCOMPARE(menus.indexOf(ToolsMenu::of(window.data())->menuAction()), menus.size() - 2);
 
         window->resize(700, 500);
         window->toolBar->hide();
@@ -293,6 +298,55 @@ private slots:
             QVERIFY(editor->valueEdit->isEnabled());
         }
         QVERIFY2(okEnabled(edited), "unchecking is a change");
+    }
+
+    // Return in the value clicks OK, which a new variable enables only for a typed
+    // name and value; the description plays no part.
+    void returnAcceptsANewVariableWithANameAndAValue_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<bool>("accepted");
+        QTest::addRow("a name and a value") << "FOO"
+                                            << "bar"
+                                            << "" << true;
+        QTest::addRow("a name alone") << "FOO"
+                                      << ""
+                                      << "" << false;
+        QTest::addRow("a value alone") << ""
+                                       << "bar"
+                                       << "" << false;
+        QTest::addRow("a description alone") << ""
+                                             << ""
+                                             << "text" << false;
+        QTest::addRow("a name and a description") << "FOO"
+                                                  << ""
+                                                  << "text" << false;
+    }
+    void returnAcceptsANewVariableWithANameAndAValue()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QFETCH(QString, description);
+        QFETCH(bool, accepted);
+        uEditor editor(window.data(), 0);
+        QTest::keyClicks(editor.variableEdit, name);
+        QTest::keyClicks(editor.descriptEdit, description);
+        QTest::keyClicks(editor.valueEdit, value);
+        QTest::keyClick(editor.valueEdit, Qt::Key_Return);
+        QCOMPARE(editor.result() == QDialog::Accepted, accepted);
+        QCOMPARE(editor.valueEdit->toPlainText(), value);
+    }
+
+    void erasingTheNameOfANewVariableDisablesOk()
+    {
+        uEditor editor(window.data(), 0);
+        QTest::keyClicks(editor.variableEdit, "F");
+        QTest::keyClicks(editor.valueEdit, "bar");
+        QVERIFY(okEnabled(editor));
+        QTest::keyClick(editor.variableEdit, Qt::Key_Backspace);
+        QVERIFY(!okEnabled(editor));
     }
 
     void onlyRootMayChooseSystemScopeAndSystemFiles()

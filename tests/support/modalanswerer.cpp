@@ -55,4 +55,9 @@ void ModalAnswerer::poll()
         record.buttons.append(button->text().remove(QLatin1Char('&')));
     seen.append(record);
     actions.takeFirst()(widget);
+    // An answer that left its window open would leave the test waiting on it.
+    if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible()) {
+        unanswered << widget->windowTitle() + QStringLiteral(": still open after its answer");
+        dialog->done(QDialog::Rejected);
+    }
 }

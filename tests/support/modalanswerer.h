@@ -38,7 +38,8 @@ public:
 
     // When set, a modal widget that comes with no answer left is rejected and
     // listed in `unanswered` ("title: text"), so that a test fails instead of
-    // waiting on it.
+    // waiting on it. A dialog that its answer left open is rejected and listed
+    // too, set or not.
     bool rejectUnanswered = false;
     QStringList unanswered;
 
