@@ -361,6 +361,29 @@ private slots:
         }
     }
 
+    // Up is off on the first file and Down on the last, so a move never leaves the list.
+    void upAndDownMoveTheCurrentFile()
+    {
+        openPreferences();
+        QListWidget *list = preferences->userFilesList;
+        const auto files = [list] {
+            QStringList texts;
+            for (int row = 0; row < list->count(); ++row)
+                texts << list->item(row)->text();
+            return texts;
+        };
+        list->setCurrentRow(0);
+        QVERIFY(!preferences->userUpButton->isEnabled());
+        preferences->userDownButton->click();
+        QCOMPARE(files(), QStringList({"b", "a", "c"}));
+        QCOMPARE(list->currentRow(), 1);
+        QVERIFY(apply()->isEnabled());
+        list->setCurrentRow(2);
+        QVERIFY(!preferences->userDownButton->isEnabled());
+        preferences->userUpButton->click();
+        QCOMPARE(files(), QStringList({"b", "c", "a"}));
+    }
+
     // Apply stores and keeps the dialog open; the user list is stored by shell kind.
     void applyAndOkStoreTheLists_data()
     {

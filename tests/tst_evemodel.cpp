@@ -30,6 +30,35 @@ private slots:
 
     void rowsCarryNoNumbers() { QVERIFY(!model->headerData(1, Qt::Vertical).isValid()); }
 
+    // Name, value and origin, never the description. A long value is cut, unless
+    // colons let the tool tip wrap it at " :".
+    void toolTipShowsTheNameAndTheValue_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("shown");
+        const QString fifty = QString(50, 'x');
+        QTest::addRow("50 characters are shown whole") << fifty << fifty;
+        QTest::addRow("51 characters get \"...\" all the same") << fifty + "y" << fifty + "y...";
+        QTest::addRow("80 characters are cut after 51")
+            << fifty + QString(30, 'y') << fifty + "y...";
+        QTest::addRow("a long list of paths gets a space before each colon")
+            << "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin"
+            << "/usr/local/sbin :/usr/local/bin :/usr/sbin :/usr/bin :/sbin :/bin";
+        QTest::addRow("a percent sign stays as it is") << "%1 %2"
+                                                       << "%1 %2";
+    }
+    void toolTipShowsTheNameAndTheValue()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, shown);
+        Sandbox::setUserEnvironment({"EDITOR=" + value});
+        model.reset(new EveModel);
+        QCOMPARE(model->data(cell("EDITOR", EveModel::DescriptionColumn), Qt::ToolTipRole),
+                 "<table><tr><td><b>Variable</b>: EDITOR</td></tr><tr><td><b>Value</b>: " + shown +
+                     "</td></tr><tr><td><b>Origin</b>: System</td></tr></table>");
+        QCOMPARE(model->data(cell("EDITOR", 0), Qt::StatusTipRole), "EDITOR=" + value);
+    }
+
     // Name, value and description are editable; disableDel() comes when at
     // most one row is left; an empty model has no columns, flags or data.
     void flagsAndSignalsFollowTheRowsLeft()

@@ -1,5 +1,6 @@
 #include "eve.h"
 #include "evemodel.h"
+#include "linediff.h"
 #include "previewdialog.h"
 #include "restore.h"
 #include "restoredialog.h"
@@ -220,6 +221,45 @@ private slots:
         QCOMPARE(program.exitCode(), exitCode);
         QCOMPARE(exitCode == 0 ? program.readAllStandardOutput() : program.readAllStandardError(),
                  output);
+    }
+
+    // The diffs of the preview, Restore and the "diff" command, which patch reads.
+    void diffsHaveThreeLinesOfContextAndJoinCloseChanges_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::addColumn<QByteArray>("diff"); // without the "--- old\n+++ new\n" head
+
+        QByteArray twenty;
+        for (int i = 1; i <= 20; ++i)
+            twenty += QByteArray::number(i) + '\n';
+        const QByteArray ten = twenty.left(twenty.indexOf("11\n"));
+        QTest::addRow("equal files give no diff") << ten << ten << QByteArray();
+        QTest::addRow("one changed line has three lines of context")
+            << ten << QByteArray(ten).replace("5\n", "five\n")
+            << QByteArray("@@ -2,7 +2,7 @@\n 2\n 3\n 4\n-5\n+five\n 6\n 7\n 8\n");
+        QTest::addRow("a new file") << QByteArray() << QByteArray("export X=1\n")
+                                    << QByteArray("@@ -0,0 +1 @@\n+export X=1\n");
+        QTest::addRow("a removed last line")
+            << QByteArray("a\nb\n") << QByteArray("a\n") << QByteArray("@@ -1,2 +1 @@\n a\n-b\n");
+        QTest::addRow("a file without a final line end gets one")
+            << QByteArray("a\nb") << QByteArray("a\nb\n")
+            << QByteArray("@@ -1,2 +1,2 @@\n a\n-b\n\\ No newline at end of file\n+b\n");
+        QTest::addRow("changes seven lines apart make two hunks")
+            << twenty << QByteArray(twenty).replace("1\n2\n", "x\n2\n").replace("\n9\n", "\ny\n")
+            << QByteArray("@@ -1,4 +1,4 @@\n-1\n+x\n 2\n 3\n 4\n"
+                          "@@ -6,7 +6,7 @@\n 6\n 7\n 8\n-9\n+y\n 10\n 11\n 12\n");
+        QTest::addRow("changes six lines apart share a hunk")
+            << ten << QByteArray(ten).replace("1\n2\n", "x\n2\n").replace("\n8\n", "\ny\n")
+            << QByteArray("@@ -1,10 +1,10 @@\n-1\n+x\n 2\n 3\n 4\n 5\n 6\n 7\n-8\n+y\n 9\n 10\n");
+    }
+    void diffsHaveThreeLinesOfContextAndJoinCloseChanges()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        QFETCH(QByteArray, diff);
+        QCOMPARE(LineDiff::unified(before, after, "old", "new"),
+                 diff.isEmpty() ? diff : "--- old\n+++ new\n" + diff);
     }
 };
 

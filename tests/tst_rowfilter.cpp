@@ -3,6 +3,7 @@
 #include "filterbar.h"
 #include "rowfilter.h"
 #include "sandboxtest.h"
+#include "tablehelpers.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -77,6 +78,19 @@ private slots:
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
         bar()->field()->setText("VIM");
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
+    }
+
+    // Edit and Delete act on the current row, which must never be one the user cannot see.
+    void commandsNeverActOnAHiddenRow()
+    {
+        window->tableView->selectRow(rowOf(*window->eveModel(), "PAGER"));
+        bar()->field()->setText("vim");
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window->eveModel(), "EDITOR"));
+
+        window->actionEdit->setEnabled(true);
+        bar()->field()->setText("no such text");
+        QVERIFY(!window->tableView->currentIndex().isValid());
+        QVERIFY(!window->actionEdit->isEnabled());
     }
 
     void ctrlFThenTypingFiltersAndEscapeClears()
