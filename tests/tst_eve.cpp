@@ -1,5 +1,6 @@
 #include "eve.h"
 #include "evemodel.h"
+#include "orvintegration.h"
 #include "preferencesdialog.h"
 #include "sandboxtest.h"
 #include "tablehelpers.h"
@@ -7,6 +8,7 @@
 #include "ueditor.h"
 
 #include <QMenuBar>
+#include <QToolTip>
 
 static QList<int> columnWidths(const Eve &window)
 {
@@ -122,6 +124,26 @@ private slots:
         QCOMPARE(next.size(), QSize(700, 500));
         QVERIFY2(next.toolBar->isHidden(), "the tool bar was hidden at the last close");
         QCOMPARE(columnWidths(next), QList<int>({230, 200, 120, 300, 0, 0, 0}));
+    }
+
+    void aboutNamesTheProgramItsVersionAndWhatItDoes()
+    {
+        orvInit("9.8.7", "Edits <environment> variables");
+        QCOMPARE(run(window->findChild<OrvHelpMenu *>()->actions().value(0), {"OK"}),
+                 QStringList({"About tst_eve: <p><b>tst_eve</b> 9.8.7</p>"
+                              "<p>Edits &lt;environment&gt; variables</p>"}));
+    }
+
+    void f1InPreferencesExplainsTheFocusedControl()
+    {
+        openPreferences();
+        preferences->setModal(false); // the answerer turns away modal windows it was not told of
+        preferences->show();
+        QVERIFY(QTest::qWaitForWindowActive(preferences.data()));
+        QTRY_COMPARE(QApplication::focusWidget(), preferences->userAddButton);
+        QTest::keyClick(preferences.data(), Qt::Key_F1);
+        QCOMPARE(QToolTip::text(), preferences->userAddButton->toolTip());
+        QToolTip::hideText();
     }
 
     void closingWithUnsavedChangesAsks_data()
