@@ -330,21 +330,16 @@ private slots:
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("description");
         QTest::addColumn<bool>("accepted");
-        QTest::addRow("a name and a value") << "FOO"
-                                            << "bar"
-                                            << "" << true;
-        QTest::addRow("a name alone") << "FOO"
-                                      << ""
-                                      << "" << false;
-        QTest::addRow("a value alone") << ""
-                                       << "bar"
-                                       << "" << false;
-        QTest::addRow("a description alone") << ""
-                                             << ""
-                                             << "text" << false;
-        QTest::addRow("a name and a description") << "FOO"
-                                                  << ""
-                                                  << "text" << false;
+        const auto row = [](const char *name, const char *typedName, const char *value,
+                            const char *description, bool accepted) {
+            QTest::newRow(name) << QString(typedName) << QString(value) << QString(description)
+                                << accepted;
+        };
+        row("a name and a value", "FOO", "bar", "", true);
+        row("a name alone", "FOO", "", "", false);
+        row("a value alone", "", "bar", "", false);
+        row("a description alone", "", "", "text", false);
+        row("a name and a description", "FOO", "", "text", false);
     }
     void returnAcceptsANewVariableWithANameAndAValue()
     {
