@@ -2,8 +2,8 @@
 // million random lines, other lines than the test's million), and the cost
 // of one line with each.
 
-#include "exportmatcher.h"
-#include "randomlines.h"
+#include "core/shell/exportmatcher.h"
+#include "support/randomlines.h"
 
 #include <QRegExp>
 #include <QStringList>

@@ -1,12 +1,12 @@
 // Filtering a window of 10,000 variables, and telling where a variable is
 // set from start-up files of 50,000 lines.
 
-#include "eve.h"
-#include "evemodel.h"
-#include "filterbar.h"
-#include "rowfilter.h"
-#include "sandbox.h"
-#include "whereset.h"
+#include "core/lookup/whereset.h"
+#include "gui/app/eve.h"
+#include "gui/lookup/filterbar.h"
+#include "gui/lookup/rowfilter.h"
+#include "gui/model/evemodel.h"
+#include "support/sandbox.h"
 
 #include <QApplication>
 #include <QLineEdit>

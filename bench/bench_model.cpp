@@ -1,8 +1,8 @@
 // Sorting 100,000 rows, and constructing the model over 10,000 environment
 // variables and 100,000 lines of start-up files.
 
-#include "evemodel.h"
-#include "sandbox.h"
+#include "gui/model/evemodel.h"
+#include "support/sandbox.h"
 
 #include <QRandomGenerator>
 

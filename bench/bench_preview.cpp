@@ -3,9 +3,9 @@
 // asking the shell whether the file still parses; and the diff of two
 // versions that differ in every line.
 
-#include "changepreview.h"
-#include "evemodel.h"
-#include "linediff.h"
+#include "core/preview/changepreview.h"
+#include "core/preview/linediff.h"
+#include "gui/model/evemodel.h"
 #include "startupfiles.h"
 
 #include <benchmark/benchmark.h>

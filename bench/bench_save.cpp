@@ -2,7 +2,7 @@
 // one changed variable in a 1 MiB file beside `sed -i` making the same
 // one-line change. Every save also keeps its copy of the file and syncs.
 
-#include "evemodel.h"
+#include "gui/model/evemodel.h"
 #include "startupfiles.h"
 
 #include <benchmark/benchmark.h>

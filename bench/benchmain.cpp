@@ -2,7 +2,7 @@
 // benchmark touches the real home, settings or /etc, and a QApplication for
 // the widgets and settings the code under measure uses.
 
-#include "sandbox.h"
+#include "support/sandbox.h"
 
 #include <QApplication>
 

@@ -2,8 +2,8 @@
 
 // Start-up files and changes for the benchmarks of saving and previewing.
 
-#include "evemodel.h"
-#include "sandbox.h"
+#include "gui/model/evemodel.h"
+#include "support/sandbox.h"
 
 #include <QStringList>
 

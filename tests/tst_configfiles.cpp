@@ -1,7 +1,7 @@
-#include "evemodel.h"
-#include "sandboxtest.h"
-#include "saveplan.h"
-#include "tablehelpers.h"
+#include "core/save/saveplan.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
 
 #include <sys/stat.h>
 
@@ -206,10 +206,10 @@ private slots:
             const QList<QStringList> rows{{"NEW", "1", "System", "", "global", "", "1"},
                                           {"OLD", "1", "/etc/x", "", "global", "", "0"},
                                           {"LOST", "1", "/etc/unopenable", "", "global", "", "0"}};
-            const auto read = [](const QString &path) {
-                SafeFile::Contents file;
-                file.usable = path != "/etc/unopenable";
-                return file;
+            const auto read = [](const QString &path) -> Result<SafeFile::Contents> {
+                if (path == "/etc/unopenable")
+                    return Failure{path, Failure::Step::Open, "cannot be opened"};
+                return SafeFile::Contents();
             };
             QStringList files; // "path: the names saved there"
             for (const SavePlan::File &file :

@@ -1,9 +1,10 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "iconfallback.h"
-#include "preferencesdialog.h"
-#include "sandboxtest.h"
-#include "ueditor.h"
+#include "gui/app/eve.h"
+#include "gui/app/iconfallback.h"
+#include "gui/dialogs/preferencesdialog.h"
+#include "gui/dialogs/ueditor.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/windowhelpers.h"
 
 #include <QAccessible>
 #include <QTemporaryDir>
@@ -18,10 +19,10 @@ private slots:
     void everyVisibleButtonSaysWhatItIs()
     {
         Eve window;
-        window.tableView->setCurrentIndex(window.eveModel()->index(0, 0));
+        window.tableView->setCurrentIndex(modelOf(window)->index(0, 0));
         uEditor newVariable(&window, 0);
         uEditor editVariable(&window);
-        preferencesDialog preferences(&window, window.eveModel());
+        preferencesDialog preferences(&window, modelOf(window));
         QStringList unlabelled;
         for (QWidget *shown :
              QList<QWidget *>{&window, &newVariable, &editVariable, &preferences}) {
@@ -44,7 +45,7 @@ private slots:
     void preferencesListsAreNamedAfterTheirGroups()
     {
         Eve window;
-        preferencesDialog dialog(&window, window.eveModel());
+        preferencesDialog dialog(&window, modelOf(window));
         const auto spokenName = [](QWidget *widget) {
             return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
         };
@@ -89,7 +90,7 @@ private slots:
             QSKIP("Breeze is not installed (Debian package breeze-icon-theme)");
         installIconFallback();
         Eve window;
-        preferencesDialog dialog(&window, window.eveModel());
+        preferencesDialog dialog(&window, modelOf(window));
         QStringList missing;
         for (QAction *action : window.findChildren<QAction *>(QRegularExpression("^action")))
             if (action->icon().isNull())

@@ -1,11 +1,12 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "orvintegration.h"
-#include "preferencesdialog.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
-#include "toolsmenu.h"
-#include "ueditor.h"
+#include "gui/app/eve.h"
+#include "gui/dialogs/preferencesdialog.h"
+#include "gui/dialogs/ueditor.h"
+#include "gui/model/evemodel.h"
+#include "gui/window/toolsmenu.h"
+#include "platform/orvintegration.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 #include <QMenuBar>
 #include <QToolTip>
@@ -30,7 +31,7 @@ class TestEve : public SandboxTest
     QScopedPointer<preferencesDialog> preferences;
     const QString bashrc = Sandbox::home() + "/.bashrc";
 
-    EveModel *model() const { return window->eveModel(); }
+    EveModel *model() const { return modelOf(*window); }
     void restart(const QString &login, const QString &shell = "bash")
     {
         preferences.reset();
@@ -203,10 +204,10 @@ private slots:
         changeExtra();
         const QStringList question{"Attention!: Do you really want to reset?"};
         QCOMPARE(run(window->actionReset, {"No"}), question);
-        QVERIFY(window->isModified());
+        QVERIFY(isModified(*window));
         QCOMPARE(run(window->actionReset, {"Yes"}), question);
         QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1");
-        QVERIFY(!window->isModified());
+        QVERIFY(!isModified(*window));
         QCOMPARE(status(), qMakePair(QString("All changes were reseted!"), 5000));
     }
 
@@ -233,7 +234,7 @@ private slots:
         QCOMPARE(run(window->actionDelete, {answer}), QStringList({"Attention!: " + question}));
         const bool deleted = answer == "Yes";
         QCOMPARE(rowOf(*model(), name), deleted ? -1 : selectedRow());
-        QCOMPARE(window->isModified(), deleted);
+        QCOMPARE(isModified(*window), deleted);
         QCOMPARE(selectedRow() == 0, deleted);
         QCOMPARE(editingEnabled(), deleted);
     }
@@ -263,7 +264,7 @@ private slots:
         QTest::keySequence(window->tableView, QKeySequence("Ins"));
         QCOMPARE(recordOf(*model(), "FOO"),
                  QStringList({"FOO", "bar", "System", "", "local", "", "bar"}));
-        QVERIFY(window->isModified() && window->actionDelete->isEnabled());
+        QVERIFY(isModified(*window) && window->actionDelete->isEnabled());
     }
 
     void editUpdatesTheRowAndSelectsTheFirst()
@@ -281,7 +282,7 @@ private slots:
         QCOMPARE(recordOf(*model(), "ZED"),
                  QStringList({"ZED", "2", "System", "", "global", "true", "1"}));
         QCOMPARE(selectedRow(), 0);
-        QVERIFY(window->isModified() && window->actionEdit->isEnabled());
+        QVERIFY(isModified(*window) && window->actionEdit->isEnabled());
     }
 
     // Accepted preferences reload the table, after offering to save what is pending.
@@ -298,13 +299,13 @@ private slots:
         changeExtra();
         answerer->addAction(accept);
         QCOMPARE(run(window->actionPreferences, {"Cancel"}).value(1), offer);
-        QVERIFY2(window->isModified(), "Cancel leaves the changes pending");
+        QVERIFY2(isModified(*window), "Cancel leaves the changes pending");
         answerer->addAction(accept);
         QCOMPARE(run(window->actionPreferences, {"OK", "OK"}).mid(1), QStringList({offer, saved}));
         QCOMPARE(userFilesTitle, "User Config Files (bash)");
         QCOMPARE(Sandbox::readFile(bashrc), "export EXTRA=2\n");
         QCOMPARE(cellOf(*model(), "EXTRA", EveModel::ValueColumn), "1"); // the environment's
-        QVERIFY(!window->isModified());
+        QVERIFY(!isModified(*window));
         QCOMPARE(status(), qMakePair(QString("New settings have been applied!"), 2000));
     }
 

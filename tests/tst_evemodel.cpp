@@ -1,6 +1,6 @@
-#include "evemodel.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
 
 // The session of every test: HOME, LOGNAME, SHELL and PATH, which the
 // catalogue marks critical, and EDITOR, which it does not.

@@ -1,8 +1,8 @@
-#include "evemodel.h"
-#include "exportmatcher.h"
-#include "randomlines.h"
-#include "sandbox.h"
-#include "tablehelpers.h"
+#include "core/shell/exportmatcher.h"
+#include "gui/model/evemodel.h"
+#include "support/randomlines.h"
+#include "support/sandbox.h"
+#include "support/tablehelpers.h"
 
 #include <QRegExp>
 #include <QtTest>

@@ -1,11 +1,12 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "linediff.h"
-#include "previewdialog.h"
-#include "restore.h"
-#include "restoredialog.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
+#include "core/preview/linediff.h"
+#include "core/save/restore.h"
+#include "gui/app/eve.h"
+#include "gui/history/previewdialog.h"
+#include "gui/history/restoredialog.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 #include <QPushButton>
 
@@ -145,7 +146,7 @@ private slots:
         Eve window;
         QAction *action = window.findChild<QAction *>("actionPreviewChanges");
         QVERIFY(!action->isEnabled());
-        setValue(*window.eveModel(), "EDITOR", "vim");
+        setValue(*modelOf(window), "EDITOR", "vim");
         QVERIFY(action->isEnabled());
         answerer->addAction(
             [](QWidget *dialog) { qobject_cast<PreviewDialog *>(dialog)->saveButton->click(); });
@@ -161,7 +162,7 @@ private slots:
     void restoreFromTheWindowReloadsTheTable()
     {
         Eve window;
-        emit window.eveModel()->dataChanged({}, {}); // an unsaved edit
+        emit modelOf(window)->dataChanged({}, {}); // an unsaved edit
         answerer->addAction([](QWidget *widget) {
             auto *dialog = qobject_cast<RestoreDialog *>(widget); // never left open
             dialog->restoreButton->isEnabled() ? dialog->restoreButton->click() : dialog->reject();
@@ -171,7 +172,7 @@ private slots:
         window.findChild<QAction *>("actionRestore")->trigger();
 
         QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
-        QVERIFY(!window.isModified());
+        QVERIFY(!isModified(window));
         QCOMPARE(window.statusBar()->currentMessage(),
                  "~/.bashrc was restored from its copy of " + Restore::timeText(copyTime) +
                      "; what it held before is kept as a copy.");
@@ -189,7 +190,7 @@ private slots:
         QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
         QCOMPARE(statOf(bashrc).st_ino, inode);
         QCOMPARE(statOf(bashrc).st_mode & 07777, mode_t(0640));
-        QCOMPARE(Sandbox::readFile(Backups::list(bashrc).value(0).path), secondVersion);
+        QCOMPARE(Sandbox::readFile(Backups::list(bashrc)->value(0).path), secondVersion);
     }
 
     void programCommands_data()

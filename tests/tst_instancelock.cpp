@@ -1,5 +1,5 @@
-#include "qtsingleapplication.h"
-#include "sandbox.h"
+#include "platform/qtsingleapplication.h"
+#include "support/sandbox.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "linedocument.h"
-#include "linegrammar.h"
-#include "randomlines.h"
+#include "core/save/linedocument.h"
+#include "core/shell/linegrammar.h"
+#include "support/randomlines.h"
 
 #include <QtTest>
 

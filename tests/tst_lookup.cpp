@@ -1,10 +1,11 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "pathlist.h"
-#include "pathlistdialog.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
-#include "wheresetdialog.h"
+#include "core/lookup/pathlist.h"
+#include "gui/app/eve.h"
+#include "gui/lookup/pathlistdialog.h"
+#include "gui/lookup/wheresetdialog.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -25,7 +26,7 @@ static void makeCurrent(Eve &window, const QString &name)
     QApplication::setActiveWindow(&window);
     QVERIFY(QTest::qWaitForWindowActive(&window));
     window.tableView->setCurrentIndex(
-        window.eveModel()->index(rowOf(*window.eveModel(), name), EveModel::ValueColumn));
+        modelOf(window)->index(rowOf(*modelOf(window), name), EveModel::ValueColumn));
 }
 
 class TestLookup : public SandboxTest
@@ -94,8 +95,8 @@ private slots:
 
         QTest::keyClick(window.tableView, Qt::Key_L, Qt::ControlModifier);
 
-        QCOMPARE(cellOf(*window.eveModel(), "PATH", EveModel::ValueColumn), value);
-        QCOMPARE(window.isModified(), value == "/a:/b");
+        QCOMPARE(cellOf(*modelOf(window), "PATH", EveModel::ValueColumn), value);
+        QCOMPARE(isModified(window), value == "/a:/b");
         QCOMPARE(answerer->seen.value(1).text, "Really change the value of system variable?");
     }
 
@@ -202,8 +203,8 @@ private slots:
         Sandbox::writeFile(Sandbox::home() + "/.profile", profile);
         Eve window;
         makeCurrent(window, "PAGER");
-        window.eveModel()->setData(window.tableView->currentIndex(), "most"); // as after a save
-        QStringList texts; // what the dialog shows
+        modelOf(window)->setData(window.tableView->currentIndex(), "most"); // as after a save
+        QStringList texts;                                                  // what the dialog shows
         answerer->addAction([&texts](QWidget *widget) {
             auto *dialog = qobject_cast<WhereSetDialog *>(widget);
             texts << dialog->sessionLabel->text() << dialog->lineList->topLevelItem(0)->text(3)

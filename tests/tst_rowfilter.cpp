@@ -1,9 +1,11 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "filterbar.h"
-#include "rowfilter.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
+#include "core/lookup/rowmatch.h"
+#include "gui/app/eve.h"
+#include "gui/lookup/filterbar.h"
+#include "gui/lookup/rowfilter.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -18,9 +20,9 @@ class TestRowFilter : public SandboxTest
     QStringList visibleNames() const
     {
         QStringList names;
-        for (int row = 0; row < window->eveModel()->rowCount(); ++row)
+        for (int row = 0; row < modelOf(*window)->rowCount(); ++row)
             if (!window->tableView->isRowHidden(row))
-                names << window->eveModel()->index(row, EveModel::VariableColumn).data().toString();
+                names << modelOf(*window)->index(row, EveModel::VariableColumn).data().toString();
         return names;
     }
     FilterBar *bar() const { return window->findChild<FilterBar *>(); }
@@ -60,21 +62,20 @@ private slots:
     void matchesByEachColumnIgnoringCase()
     {
         QFETCH(QString, text);
-        QTEST(RowFilter::matches("PAGER", "/usr/bin/less", "Scrolls long texts", text), "matches");
+        QTEST(rowMatches("PAGER", "/usr/bin/less", "Scrolls long texts", text), "matches");
     }
 
     // A new row that does not match stays visible, so that the user sees what was added.
     void hiddenRowsStayHiddenAfterAResortAReloadAndAnAdd()
     {
         bar()->field()->setText("vim");
-        window->eveModel()->sort(0, Qt::AscendingOrder);
+        modelOf(*window)->sort(0, Qt::AscendingOrder);
         QCOMPARE(visibleNames(), QStringList({"VISUAL", "EDITOR"}));
-        window->eveModel()->reload();
+        modelOf(*window)->reload();
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
 
-        window->eveModel()->insertRows(window->eveModel()->rowCount(), 1,
-                                       {"NEWVAR", "x", "", "local"});
-        window->eveModel()->sort(0, Qt::DescendingOrder);
+        modelOf(*window)->insertRows(modelOf(*window)->rowCount(), 1, {"NEWVAR", "x", "", "local"});
+        modelOf(*window)->sort(0, Qt::DescendingOrder);
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "NEWVAR", "VISUAL"}));
         bar()->field()->setText("VIM");
         QCOMPARE(visibleNames(), QStringList({"EDITOR", "VISUAL"}));
@@ -83,9 +84,9 @@ private slots:
     // Edit and Delete act on the current row, which must never be one the user cannot see.
     void commandsNeverActOnAHiddenRow()
     {
-        window->tableView->selectRow(rowOf(*window->eveModel(), "PAGER"));
+        window->tableView->selectRow(rowOf(*modelOf(*window), "PAGER"));
         bar()->field()->setText("vim");
-        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*window->eveModel(), "EDITOR"));
+        QCOMPARE(window->tableView->currentIndex().row(), rowOf(*modelOf(*window), "EDITOR"));
 
         window->actionEdit->setEnabled(true);
         bar()->field()->setText("no such text");

@@ -1,8 +1,9 @@
-#include "backups.h"
-#include "eve.h"
-#include "evemodel.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
+#include "core/files/backups.h"
+#include "gui/app/eve.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 #include <dlfcn.h>
 #include <sys/resource.h>
@@ -36,7 +37,7 @@ class TestSafeSave : public SandboxTest
     const QString bashrc = Sandbox::home() + "/.bashrc";
     QScopedPointer<Eve> window;
 
-    EveModel &model() { return *window->eveModel(); }
+    EveModel &model() { return *modelOf(*window); }
     // Makes one kind of call on ~/.bashrc fail from now until cleanup(),
     // through the preload library the tests run with (support/failio.cpp).
     void injectFailure(const char *call, int error, int bytesFirst = 0, int times = 1)
@@ -139,7 +140,7 @@ private slots:
 
         QVERIFY(!model().save());
 
-        const QString copy = Backups::list(bashrc).value(0).path;
+        const QString copy = Backups::list(bashrc)->value(0).path;
         QCOMPARE(answerer->seen.value(0).text,
                  writeFailure(EIO) + " Its content from before the save is kept in " + copy + ".");
     }
@@ -184,7 +185,7 @@ private slots:
         QVERIFY(QFileInfo(bashrc).isSymLink());
         QCOMPARE(Sandbox::readFile(target), startupFile("21"));
         QCOMPARE(statusOf(target).st_ino, inode);
-        const QList<Backups::Copy> copies = Backups::list(bashrc);
+        const QList<Backups::Copy> copies = Backups::list(bashrc).value();
         QCOMPARE(copies.size(), Backups::keptPerFile);
         QCOMPARE(statusOf(copies.first().path).st_mode & 07777, 0600u);
         // Newest first: the last save copied the value of the one before.

@@ -1,8 +1,9 @@
-#include "eve.h"
-#include "evemodel.h"
-#include "sandboxtest.h"
-#include "tablehelpers.h"
-#include "ueditor.h"
+#include "gui/app/eve.h"
+#include "gui/dialogs/ueditor.h"
+#include "gui/model/evemodel.h"
+#include "support/sandboxtest.h"
+#include "support/tablehelpers.h"
+#include "support/windowhelpers.h"
 
 class TestSortSelection : public SandboxTest
 {
@@ -21,7 +22,7 @@ private slots:
     void highlightStaysOnItsVariableWhenAnotherIsAdded()
     {
         Eve window;
-        EveModel &model = *window.eveModel();
+        EveModel &model = *modelOf(window);
         window.tableView->selectRow(rowOf(model, "CCC"));
         answerer->addAction([](QWidget *dialog) {
             auto *editor = qobject_cast<uEditor *>(dialog);

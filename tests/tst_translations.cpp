@@ -1,6 +1,6 @@
-#include "eve.h"
-#include "sandboxtest.h"
-#include "translations.h"
+#include "core/i18n/translations.h"
+#include "gui/app/eve.h"
+#include "support/sandboxtest.h"
 
 class TestTranslations : public SandboxTest
 {

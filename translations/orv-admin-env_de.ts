@@ -4,14 +4,14 @@
 <context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../history/backupstool.cpp" line="+21"/>
+        <location filename="../cli/backups/backupstool.cpp" line="+25"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Der Ordner der Kopien %1 kann nicht gelesen werden: %2
 </translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+11"/>
         <source>No copies are kept in %1.
 </source>
         <translation>In %1 liegen keine Kopien.
@@ -39,7 +39,7 @@
 </translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>%1 cannot be read: %2
 </source>
         <translation>%1 kann nicht gelesen werden: %2
@@ -139,7 +139,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ChangePreview</name>
     <message>
-        <location filename="../history/changepreview.cpp" line="+16"/>
+        <location filename="../core/preview/changepreview.cpp" line="+16"/>
         <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
         <translation>%1 wird in %2 gespeichert, weil die eigene Datei %3 nicht geöffnet werden kann: %4.</translation>
     </message>
@@ -157,7 +157,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+105"/>
+        <location filename="../gui/app/eve.cpp" line="+90"/>
         <source>Orv environment variable editor</source>
         <translation>Orv-Editor für Umgebungsvariablen</translation>
     </message>
@@ -167,7 +167,7 @@ werden (sie bleibt, wie sie war).
         <translation>Orv-Umgebungseditor</translation>
     </message>
     <message>
-        <location line="+159"/>
+        <location line="+150"/>
         <source>Help Dump</source>
         <translation>Hilfeausgabe</translation>
     </message>
@@ -203,13 +203,13 @@ werden (sie bleibt, wie sie war).
     </message>
     <message>
         <location line="+4"/>
-        <location line="+86"/>
+        <location line="+91"/>
         <location line="+19"/>
         <source>Attention!</source>
         <translation>Achtung!</translation>
     </message>
     <message>
-        <location line="-104"/>
+        <location line="-109"/>
         <source>Unable to save changes - file access denied!</source>
         <translation>Die Änderungen konnten nicht gespeichert werden - Zugriff auf die Datei verweigert!</translation>
     </message>
@@ -219,7 +219,7 @@ werden (sie bleibt, wie sie war).
         <translation>Alle Änderungen wurden zurückgesetzt!</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+70"/>
         <source>Changes are not saved!</source>
         <translation>Die Änderungen sind nicht gespeichert!</translation>
     </message>
@@ -256,7 +256,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>EveModel</name>
     <message>
-        <location filename="../model/catalogue.cpp" line="+20"/>
+        <location filename="../core/variables/catalogue.cpp" line="+23"/>
         <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
         <translation>Das Home-Verzeichnis des aktuellen Benutzers; der Standard für den eingebauten Befehl cd. Der Wert dieser Variable wird auch bei der Tilde-Expansion verwendet.</translation>
     </message>
@@ -591,7 +591,7 @@ werden (sie bleibt, wie sie war).
         <translation>Enthält seit KDE4 die Hauptversionsnummer.</translation>
     </message>
     <message>
-        <location filename="../model/evemodel.cpp" line="+16"/>
+        <location filename="../gui/model/evemodel.cpp" line="+22"/>
         <source>Variable</source>
         <translation>Variable</translation>
     </message>
@@ -611,19 +611,17 @@ werden (sie bleibt, wie sie war).
         <translation>Beschreibung</translation>
     </message>
     <message>
-        <location line="+109"/>
-        <location filename="../lookup/listeditcommand.cpp" line="+19"/>
+        <location filename="../gui/model/criticalchange.cpp" line="+9"/>
         <source>Request of confirmation</source>
         <translation>Bestätigung erforderlich</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location filename="../lookup/listeditcommand.cpp" line="+1"/>
         <source>Really change the value of system variable?</source>
         <translation>Den Wert der Systemvariable wirklich ändern?</translation>
     </message>
     <message>
-        <location line="+36"/>
+        <location filename="../gui/model/evemodel.cpp" line="+231"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -633,48 +631,45 @@ werden (sie bleibt, wie sie war).
         <translation>WERT</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="-187"/>
+        <location line="+34"/>
+        <location line="+153"/>
         <location line="+14"/>
-        <location filename="../config/loading.cpp" line="+20"/>
-        <location filename="../config/saving.cpp" line="+10"/>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <location filename="../config/loading.cpp" line="+74"/>
+        <location line="-184"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
     <message>
-        <location filename="../config/commit.cpp" line="+28"/>
+        <location filename="../core/save/commit.cpp" line="+25"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
     </message>
     <message>
-        <location filename="../config/saving.cpp" line="+25"/>
-        <location line="+9"/>
-        <location line="+14"/>
-        <location line="+11"/>
+        <location filename="../gui/model/evemodel.cpp" line="+42"/>
         <source>Warning!</source>
         <translation>Warnung!</translation>
     </message>
     <message>
-        <location line="-33"/>
+        <location line="-14"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+4"/>
         <source>Couldn&apos;t open file %1 for saving variable %2</source>
         <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geöffnet werden</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+3"/>
         <source>Couldn&apos;t open file %1 for deleting variable %2</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geöffnet werden</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+3"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
@@ -682,7 +677,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>FilterBar</name>
     <message>
-        <location filename="../lookup/filterbar.cpp" line="+18"/>
+        <location filename="../gui/lookup/filterbar.cpp" line="+23"/>
         <source>Filter variables</source>
         <translation>Variablen filtern</translation>
     </message>
@@ -697,7 +692,7 @@ werden (sie bleibt, wie sie war).
         <translation>Variablen &amp;filtern</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+45"/>
         <source>%1 of %2 variables</source>
         <translation>Variablen: %1 von %2</translation>
     </message>
@@ -705,7 +700,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ListEditCommand</name>
     <message>
-        <location filename="../lookup/listeditcommand.cpp" line="+10"/>
+        <location filename="../gui/lookup/listeditcommand.cpp" line="+16"/>
         <source>Edit as &amp;list...</source>
         <translation>Als &amp;Liste bearbeiten...</translation>
     </message>
@@ -816,7 +811,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>PathListDialog</name>
     <message>
-        <location filename="../lookup/pathlistdialog.cpp" line="+37"/>
+        <location filename="../gui/lookup/pathlistdialog.cpp" line="+37"/>
         <source>Edit %1 as a list</source>
         <translation>%1 als Liste bearbeiten</translation>
     </message>
@@ -879,7 +874,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>PreviewCommand</name>
     <message>
-        <location filename="../history/previewcommand.cpp" line="+12"/>
+        <location filename="../gui/history/previewcommand.cpp" line="+15"/>
         <source>Pre&amp;view changes...</source>
         <translation>&amp;Vorschau der Änderungen...</translation>
     </message>
@@ -892,7 +887,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>PreviewDialog</name>
     <message>
-        <location filename="../history/previewdialog.cpp" line="+37"/>
+        <location filename="../gui/history/previewdialog.cpp" line="+37"/>
         <source>Preview changes</source>
         <translation>Vorschau der Änderungen</translation>
     </message>
@@ -935,27 +930,27 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../history/restore.cpp" line="+31"/>
+        <location filename="../core/save/restore.cpp" line="+26"/>
         <source>it is not a regular file</source>
         <translation>sie ist keine gewöhnliche Datei</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+9"/>
         <source>it could not be read completely</source>
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+28"/>
         <source>The copy %1 cannot be read: %2</source>
         <translation>Die Kopie %1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>%1 cannot be opened for writing: %2</source>
         <translation>%1 kann nicht zum Schreiben geöffnet werden: %2</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+2"/>
         <source>%1 could not be written: %2</source>
         <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
@@ -963,7 +958,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>RestoreCommand</name>
     <message>
-        <location filename="../history/restorecommand.cpp" line="+16"/>
+        <location filename="../gui/history/restorecommand.cpp" line="+17"/>
         <source>&amp;Restore...</source>
         <translation>Wieder&amp;herstellen...</translation>
     </message>
@@ -984,7 +979,7 @@ werden (sie bleibt, wie sie war).
         <translation>Das Wiederherstellen lädt die Tabelle neu, Ihre ungespeicherten Änderungen gehen also verloren. Trotzdem wiederherstellen?</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+14"/>
         <source>%1 was restored from its copy of %2.</source>
         <translation>%1 wurde aus der Kopie vom %2 wiederhergestellt.</translation>
     </message>
@@ -997,7 +992,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../history/restoredialog.cpp" line="+34"/>
+        <location filename="../gui/history/restoredialog.cpp" line="+36"/>
         <source>Restore an earlier version</source>
         <translation>Frühere Fassung wiederherstellen</translation>
     </message>
@@ -1042,17 +1037,17 @@ werden (sie bleibt, wie sie war).
         <translation>Von %1 gibt es keine früheren Kopien. Eine Kopie entsteht jedes Mal, wenn Speichern oder Wiederherstellen die Datei neu schreibt.</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+11"/>
         <source>The copy of %1 from %2 cannot be read: %3.</source>
         <translation>Die Kopie von %1 vom %2 kann nicht gelesen werden: %3.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+7"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>%1 kann jetzt nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+6"/>
         <source>The copy from %1 is the same as %2 now.</source>
         <translation>Die Kopie vom %1 ist gleich %2, wie die Datei jetzt ist.</translation>
     </message>
@@ -1080,7 +1075,8 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>SafeFile</name>
     <message>
-        <location filename="../config/safefile.cpp" line="+30"/>
+        <location filename="../core/files/safefile.cpp" line="+30"/>
+        <location filename="../core/variables/origins.cpp" line="+39"/>
         <source>it is not a regular file</source>
         <translation>sie ist keine reguläre Datei</translation>
     </message>
@@ -1095,7 +1091,7 @@ werden (sie bleibt, wie sie war).
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+152"/>
+        <location line="+147"/>
         <source>another program changed it during the save</source>
         <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
     </message>
@@ -1103,7 +1099,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ShellCheck</name>
     <message>
-        <location filename="../history/shellcheck.cpp" line="+41"/>
+        <location filename="../core/preview/shellcheck.cpp" line="+41"/>
         <source>csh files are not checked</source>
         <translation>csh-Dateien werden nicht geprüft</translation>
     </message>
@@ -1146,7 +1142,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Surprises</name>
     <message>
-        <location filename="../history/surprises.cpp" line="+98"/>
+        <location filename="../core/preview/surprises.cpp" line="+58"/>
         <source>%1 and %2</source>
         <translation>%1 und %2</translation>
     </message>
@@ -1184,7 +1180,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ToolsMenu</name>
     <message>
-        <location filename="../app/toolsmenu.cpp" line="+12"/>
+        <location filename="../gui/window/toolsmenu.cpp" line="+12"/>
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
     </message>
@@ -1192,7 +1188,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>WhereSet</name>
     <message>
-        <location filename="../lookup/whereset.cpp" line="+131"/>
+        <location filename="../core/lookup/whereset.cpp" line="+131"/>
         <source>cannot be read: it is not a regular file</source>
         <translation>nicht lesbar: keine reguläre Datei</translation>
     </message>
@@ -1246,7 +1242,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>WhereSetCommand</name>
     <message>
-        <location filename="../lookup/wheresetcommand.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetcommand.cpp" line="+17"/>
         <source>&amp;Where is it set?...</source>
         <translation>&amp;Wo wird sie gesetzt?...</translation>
     </message>
@@ -1259,7 +1255,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>WhereSetDialog</name>
     <message>
-        <location filename="../lookup/wheresetdialog.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetdialog.cpp" line="+14"/>
         <source>Where is %1 set?</source>
         <translation>Wo wird %1 gesetzt?</translation>
     </message>
@@ -1308,7 +1304,7 @@ werden (sie bleibt, wie sie war).
     <name>preferencesDialog</name>
     <message>
         <location filename="../resources/preferencesdialog.ui"/>
-        <location filename="../dialogs/preferencesdialog.cpp" line="+31"/>
+        <location filename="../gui/dialogs/preferencesdialog.cpp" line="+33"/>
         <source>Preferences</source>
         <translation>Einstellungen</translation>
     </message>
@@ -1407,7 +1403,7 @@ werden (sie bleibt, wie sie war).
     <name>uEditor</name>
     <message>
         <location filename="../resources/ueditor.ui"/>
-        <location filename="../dialogs/ueditor.cpp" line="+69"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="+76"/>
         <source>Edit variable</source>
         <translation>Variable bearbeiten</translation>
     </message>
@@ -1437,7 +1433,7 @@ werden (sie bleibt, wie sie war).
         <translation>Im Systemverzeichnis /etc/ speichern</translation>
     </message>
     <message>
-        <location filename="../dialogs/ueditor.cpp" line="-42"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="-42"/>
         <location line="+41"/>
         <source>orv-adm-env</source>
         <translation>orv-adm-env</translation>

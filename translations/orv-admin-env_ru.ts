@@ -4,14 +4,14 @@
 <context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../history/backupstool.cpp" line="+21"/>
+        <location filename="../cli/backups/backupstool.cpp" line="+25"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Не удаётся прочитать папку копий %1: %2
 </translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+11"/>
         <source>No copies are kept in %1.
 </source>
         <translation>В %1 нет копий.
@@ -39,7 +39,7 @@
 </translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>%1 cannot be read: %2
 </source>
         <translation>Не удаётся прочитать %1: %2
@@ -138,7 +138,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ChangePreview</name>
     <message>
-        <location filename="../history/changepreview.cpp" line="+16"/>
+        <location filename="../core/preview/changepreview.cpp" line="+16"/>
         <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
         <translation>%1 будет сохранена в %2, потому что её файл %3 не удаётся открыть: %4.</translation>
     </message>
@@ -156,7 +156,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../app/eve.cpp" line="+105"/>
+        <location filename="../gui/app/eve.cpp" line="+90"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -166,7 +166,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Редактор окружения Orv</translation>
     </message>
     <message>
-        <location line="+159"/>
+        <location line="+150"/>
         <source>Help Dump</source>
         <translation>Вывод справки</translation>
     </message>
@@ -202,13 +202,13 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
     <message>
         <location line="+4"/>
-        <location line="+86"/>
+        <location line="+91"/>
         <location line="+19"/>
         <source>Attention!</source>
         <translation>Внимание!</translation>
     </message>
     <message>
-        <location line="-104"/>
+        <location line="-109"/>
         <source>Unable to save changes - file access denied!</source>
         <translation>Не удалось сохранить изменения - доступ к файлу запрещён!</translation>
     </message>
@@ -218,7 +218,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Все изменения отменены!</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+70"/>
         <source>Changes are not saved!</source>
         <translation>Изменения не сохранены!</translation>
     </message>
@@ -255,7 +255,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>EveModel</name>
     <message>
-        <location filename="../model/catalogue.cpp" line="+20"/>
+        <location filename="../core/variables/catalogue.cpp" line="+23"/>
         <source>The current user&apos;s home directory; the default for the cd built-in. The value of this variable is also used by tilde expansion.</source>
         <translation>Домашний каталог текущего пользователя; каталог по умолчанию для встроенной команды cd. Значение этой переменной также используется при раскрытии тильды.</translation>
     </message>
@@ -590,7 +590,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Начиная с KDE4 содержит основной номер версии.</translation>
     </message>
     <message>
-        <location filename="../model/evemodel.cpp" line="+16"/>
+        <location filename="../gui/model/evemodel.cpp" line="+22"/>
         <source>Variable</source>
         <translation>Переменная</translation>
     </message>
@@ -610,19 +610,17 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Описание</translation>
     </message>
     <message>
-        <location line="+109"/>
-        <location filename="../lookup/listeditcommand.cpp" line="+19"/>
+        <location filename="../gui/model/criticalchange.cpp" line="+9"/>
         <source>Request of confirmation</source>
         <translation>Запрос подтверждения</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location filename="../lookup/listeditcommand.cpp" line="+1"/>
         <source>Really change the value of system variable?</source>
         <translation>Действительно изменить значение системной переменной?</translation>
     </message>
     <message>
-        <location line="+36"/>
+        <location filename="../gui/model/evemodel.cpp" line="+231"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -632,48 +630,45 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>ЗНАЧЕНИЕ</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="-187"/>
+        <location line="+34"/>
+        <location line="+153"/>
         <location line="+14"/>
-        <location filename="../config/loading.cpp" line="+20"/>
-        <location filename="../config/saving.cpp" line="+10"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
     <message>
-        <location filename="../config/loading.cpp" line="+74"/>
+        <location line="-184"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
     <message>
-        <location filename="../config/commit.cpp" line="+28"/>
+        <location filename="../core/save/commit.cpp" line="+25"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Его содержимое до сохранения находится в %1.</translation>
     </message>
     <message>
-        <location filename="../config/saving.cpp" line="+25"/>
-        <location line="+9"/>
-        <location line="+14"/>
-        <location line="+11"/>
+        <location filename="../gui/model/evemodel.cpp" line="+42"/>
         <source>Warning!</source>
         <translation>Предупреждение!</translation>
     </message>
     <message>
-        <location line="-33"/>
+        <location line="-14"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Не удалось записать файл %1 для сохранения переменной %2: %3</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+4"/>
         <source>Couldn&apos;t open file %1 for saving variable %2</source>
         <translation>Не удалось открыть файл %1 для сохранения переменной %2</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+3"/>
         <source>Couldn&apos;t open file %1 for deleting variable %2</source>
         <translation>Не удалось открыть файл %1 для удаления переменной %2</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+3"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Не удалось записать файл %1 для удаления переменной %2: %3</translation>
     </message>
@@ -681,7 +676,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>FilterBar</name>
     <message>
-        <location filename="../lookup/filterbar.cpp" line="+18"/>
+        <location filename="../gui/lookup/filterbar.cpp" line="+23"/>
         <source>Filter variables</source>
         <translation>Фильтр переменных</translation>
     </message>
@@ -696,7 +691,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>&amp;Фильтр переменных</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+45"/>
         <source>%1 of %2 variables</source>
         <translation>Переменные: %1 из %2</translation>
     </message>
@@ -704,7 +699,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ListEditCommand</name>
     <message>
-        <location filename="../lookup/listeditcommand.cpp" line="+10"/>
+        <location filename="../gui/lookup/listeditcommand.cpp" line="+16"/>
         <source>Edit as &amp;list...</source>
         <translation>Изменить как &amp;список...</translation>
     </message>
@@ -815,7 +810,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>PathListDialog</name>
     <message>
-        <location filename="../lookup/pathlistdialog.cpp" line="+37"/>
+        <location filename="../gui/lookup/pathlistdialog.cpp" line="+37"/>
         <source>Edit %1 as a list</source>
         <translation>Изменение %1 как списка</translation>
     </message>
@@ -878,7 +873,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>PreviewCommand</name>
     <message>
-        <location filename="../history/previewcommand.cpp" line="+12"/>
+        <location filename="../gui/history/previewcommand.cpp" line="+15"/>
         <source>Pre&amp;view changes...</source>
         <translation>&amp;Предпросмотр изменений...</translation>
     </message>
@@ -891,7 +886,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>PreviewDialog</name>
     <message>
-        <location filename="../history/previewdialog.cpp" line="+37"/>
+        <location filename="../gui/history/previewdialog.cpp" line="+37"/>
         <source>Preview changes</source>
         <translation>Предпросмотр изменений</translation>
     </message>
@@ -934,27 +929,27 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../history/restore.cpp" line="+31"/>
+        <location filename="../core/save/restore.cpp" line="+26"/>
         <source>it is not a regular file</source>
         <translation>это не обычный файл</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+9"/>
         <source>it could not be read completely</source>
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+28"/>
         <source>The copy %1 cannot be read: %2</source>
         <translation>Не удаётся прочитать копию %1: %2</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+2"/>
         <source>%1 cannot be opened for writing: %2</source>
         <translation>Не удаётся открыть %1 для записи: %2</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+2"/>
         <source>%1 could not be written: %2</source>
         <translation>Не удалось записать %1: %2</translation>
     </message>
@@ -962,7 +957,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>RestoreCommand</name>
     <message>
-        <location filename="../history/restorecommand.cpp" line="+16"/>
+        <location filename="../gui/history/restorecommand.cpp" line="+17"/>
         <source>&amp;Restore...</source>
         <translation>&amp;Восстановить...</translation>
     </message>
@@ -983,7 +978,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Восстановление заново загружает таблицу, поэтому несохранённые изменения будут потеряны. Всё равно восстановить?</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+14"/>
         <source>%1 was restored from its copy of %2.</source>
         <translation>%1 восстановлен из копии от %2.</translation>
     </message>
@@ -996,7 +991,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../history/restoredialog.cpp" line="+34"/>
+        <location filename="../gui/history/restoredialog.cpp" line="+36"/>
         <source>Restore an earlier version</source>
         <translation>Восстановить прежнюю версию</translation>
     </message>
@@ -1041,17 +1036,17 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Прежних копий %1 нет. Копия создаётся каждый раз, когда сохранение или восстановление перезаписывает файл.</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+11"/>
         <source>The copy of %1 from %2 cannot be read: %3.</source>
         <translation>Не удаётся прочитать копию %1 от %2: %3.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+7"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>Сейчас не удаётся прочитать %1: %2.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+6"/>
         <source>The copy from %1 is the same as %2 now.</source>
         <translation>Копия от %1 совпадает с нынешним %2.</translation>
     </message>
@@ -1079,7 +1074,8 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>SafeFile</name>
     <message>
-        <location filename="../config/safefile.cpp" line="+30"/>
+        <location filename="../core/files/safefile.cpp" line="+30"/>
+        <location filename="../core/variables/origins.cpp" line="+39"/>
         <source>it is not a regular file</source>
         <translation>это не обычный файл</translation>
     </message>
@@ -1094,7 +1090,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+152"/>
+        <location line="+147"/>
         <source>another program changed it during the save</source>
         <translation>другая программа изменила его во время сохранения</translation>
     </message>
@@ -1102,7 +1098,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ShellCheck</name>
     <message>
-        <location filename="../history/shellcheck.cpp" line="+41"/>
+        <location filename="../core/preview/shellcheck.cpp" line="+41"/>
         <source>csh files are not checked</source>
         <translation>файлы csh не проверяются</translation>
     </message>
@@ -1145,7 +1141,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Surprises</name>
     <message>
-        <location filename="../history/surprises.cpp" line="+98"/>
+        <location filename="../core/preview/surprises.cpp" line="+58"/>
         <source>%1 and %2</source>
         <translation>%1 и %2</translation>
     </message>
@@ -1183,7 +1179,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ToolsMenu</name>
     <message>
-        <location filename="../app/toolsmenu.cpp" line="+12"/>
+        <location filename="../gui/window/toolsmenu.cpp" line="+12"/>
         <source>&amp;Tools</source>
         <translation>С&amp;ервис</translation>
     </message>
@@ -1191,7 +1187,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>WhereSet</name>
     <message>
-        <location filename="../lookup/whereset.cpp" line="+131"/>
+        <location filename="../core/lookup/whereset.cpp" line="+131"/>
         <source>cannot be read: it is not a regular file</source>
         <translation>не удаётся прочитать: это не обычный файл</translation>
     </message>
@@ -1245,7 +1241,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>WhereSetCommand</name>
     <message>
-        <location filename="../lookup/wheresetcommand.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetcommand.cpp" line="+17"/>
         <source>&amp;Where is it set?...</source>
         <translation>&amp;Где она задана?...</translation>
     </message>
@@ -1258,7 +1254,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>WhereSetDialog</name>
     <message>
-        <location filename="../lookup/wheresetdialog.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetdialog.cpp" line="+14"/>
         <source>Where is %1 set?</source>
         <translation>Где задана %1?</translation>
     </message>
@@ -1307,7 +1303,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     <name>preferencesDialog</name>
     <message>
         <location filename="../resources/preferencesdialog.ui"/>
-        <location filename="../dialogs/preferencesdialog.cpp" line="+31"/>
+        <location filename="../gui/dialogs/preferencesdialog.cpp" line="+33"/>
         <source>Preferences</source>
         <translation>Параметры</translation>
     </message>
@@ -1406,7 +1402,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     <name>uEditor</name>
     <message>
         <location filename="../resources/ueditor.ui"/>
-        <location filename="../dialogs/ueditor.cpp" line="+69"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="+76"/>
         <source>Edit variable</source>
         <translation>Изменение переменной</translation>
     </message>
@@ -1436,7 +1432,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Сохранить в системном каталоге /etc/</translation>
     </message>
     <message>
-        <location filename="../dialogs/ueditor.cpp" line="-42"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="-42"/>
         <location line="+41"/>
         <source>orv-adm-env</source>
         <translation>orv-adm-env</translation>

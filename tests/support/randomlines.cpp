@@ -1,4 +1,4 @@
-#include "randomlines.h"
+#include "support/randomlines.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "sandbox.h"
+#include "support/sandbox.h"
 
-#include "systempaths.h"
+#include "core/files/systempaths.h"
 
 #include <QDir>
 #include <QFile>

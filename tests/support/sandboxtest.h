@@ -1,7 +1,7 @@
 #pragma once
 
-#include "modalanswerer.h"
-#include "sandbox.h"
+#include "support/modalanswerer.h"
+#include "support/sandbox.h"
 
 #include <QtTest>
 

@@ -1,0 +1,43 @@
+#include "gui/history/previewcommand.h"
+
+#include "core/preview/changepreview.h"
+#include "gui/history/previewdialog.h"
+#include "gui/model/evemodel.h"
+#include "gui/window/editorwindow.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+
+PreviewCommand::PreviewCommand(EditorWindow *window)
+    : QObject(window->window())
+    , window(window)
+    , previewAction(new QAction(tr("Pre&view changes..."), window->window()))
+{
+    previewAction->setObjectName(QStringLiteral("actionPreviewChanges"));
+    previewAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    previewAction->setStatusTip(tr("Show every line the next save would change in each file"));
+    previewAction->setIcon(QIcon::fromTheme(QStringLiteral("document-preview")));
+    QAction *save = window->saveAction();
+    previewAction->setEnabled(save->isEnabled());
+    connect(save, &QAction::changed, previewAction,
+            [this, save] { previewAction->setEnabled(save->isEnabled()); });
+    window->toolsMenu()->addAction(previewAction);
+    connect(previewAction, &QAction::triggered, this, &PreviewCommand::run);
+}
+
+QAction *PreviewCommand::action() const
+{
+    return previewAction;
+}
+
+void PreviewCommand::run()
+{
+    const EveModel *model = window->model();
+    const ChangePreview preview =
+        ChangePreview::of(model->saveInput(), model->ShellKind, model->homeDir);
+    PreviewDialog dialog(preview, model->homeDir, window->window());
+    // The window's own Save, with its messages, once the preview is gone.
+    if (dialog.exec() == QDialog::Accepted)
+        window->saveAction()->trigger();
+}

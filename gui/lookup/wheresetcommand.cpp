@@ -1,0 +1,60 @@
+#include "gui/lookup/wheresetcommand.h"
+
+#include "gui/lookup/wheresetdialog.h"
+#include "gui/model/evemodel.h"
+#include "gui/window/currentrowaction.h"
+#include "gui/window/editorwindow.h"
+
+#include <QMainWindow>
+#include <QMenu>
+
+#include <QProcessEnvironment>
+
+WhereSetCommand::WhereSetCommand(EditorWindow *window)
+    : QObject(window->window())
+    , window(window)
+    , whereAction(
+          new CurrentRowAction(tr("&Where is it set?..."), window->table(), window->window()))
+{
+    whereAction->setObjectName(QStringLiteral("actionWhereSet"));
+    whereAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
+    whereAction->setStatusTip(
+        tr("Show every line of the start-up files that sets the selected variable"));
+    whereAction->setIcon(QIcon::fromTheme(QStringLiteral("edit-find")));
+    window->toolsMenu()->addAction(whereAction);
+    connect(whereAction, &QAction::triggered, this, &WhereSetCommand::run);
+}
+
+QAction *WhereSetCommand::action() const
+{
+    return whereAction;
+}
+
+WhereSetCommand::Answer WhereSetCommand::answer(const QString &name,
+                                                const QString &tableValue) const
+{
+    const EveModel *model = window->model();
+    Answer result;
+    // The editor's own environment is the session's: the table may hold edits.
+    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (environment.contains(name))
+        result.session = environment.value(name);
+    const QList<WhereSet::File> files = WhereSet::startupFiles(
+        model->ShellKind, model->homeDir, model->systemFiles, model->userFiles);
+    for (const WhereSet::File &file : files)
+        result.lines += WhereSet::scanFile(file, name);
+    result.explanation =
+        WhereSet::explain(result.lines, name, result.session, tableValue, model->homeDir);
+    return result;
+}
+
+void WhereSetCommand::run()
+{
+    if (whereAction->currentRow() < 0)
+        return;
+    const QString name = whereAction->field(EveModel::VariableColumn);
+    const Answer found = answer(name, whereAction->field(EveModel::ValueColumn));
+    WhereSetDialog dialog(name, found.session, found.lines, found.explanation,
+                          window->model()->homeDir, window->window());
+    dialog.exec();
+}

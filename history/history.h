@@ -1,7 +1,0 @@
-#pragma once
-
-class Eve;
-
-// Seeing what a save will do and taking it back: "Preview changes..." and
-// "Restore...". Called once the window's table has its model.
-void installHistory(Eve *window);

@@ -1,7 +1,0 @@
-#pragma once
-
-class Eve;
-
-// Finding and understanding a variable: the filter field, "Edit as list..."
-// and "Where is it set?...". Called once the window's table has its model.
-void installLookup(Eve *window);
