@@ -42,15 +42,13 @@ bool writeCopy(int fd, const QByteArray &bytes)
 }
 
 // The folder, private to the user; made when missing.
-bool makeDirectory(const QString &path, QString *error)
+Status makeDirectory(const QString &path)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
     const QByteArray name = QFile::encodeName(path);
-    if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST) {
-        *error = qt_error_string(errno);
-        return false;
-    }
-    return true;
+    if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
+        return Failure{path, Failure::Step::Copy, qt_error_string(errno)};
+    return Status();
 }
 
 } // namespace
@@ -127,9 +125,9 @@ Result<QString> keep(const QString &original, const QByteArray &bytes)
     const QString folder = directory();
     if (folder.isEmpty())
         return Failure{folder, Failure::Step::Copy, qt_error_string(ENOENT)};
-    QString error;
-    if (!makeDirectory(folder, &error))
-        return Failure{folder, Failure::Step::Copy, error};
+    const Status made = makeDirectory(folder);
+    if (!made)
+        return made.failure();
 
     // A name taken already (two saves within a millisecond) moves the time on.
     QDateTime time = QDateTime::currentDateTimeUtc();

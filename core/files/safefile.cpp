@@ -61,17 +61,17 @@ private:
     int fd;
 };
 
-bool readAll(int fd, QByteArray *bytes, QString *error)
+// The whole file; the Failure's path is the caller's to fill in.
+Result<QByteArray> readAll(int fd)
 {
+    const auto failed = [](const QString &reason) {
+        return Failure{QString(), Failure::Step::Read, reason};
+    };
     struct stat info;
-    if (::fstat(fd, &info) != 0) {
-        *error = systemError(errno);
-        return false;
-    }
-    if (info.st_size > largestReadable) {
-        *error = systemError(EFBIG);
-        return false;
-    }
+    if (::fstat(fd, &info) != 0)
+        return failed(systemError(errno));
+    if (info.st_size > largestReadable)
+        return failed(systemError(EFBIG));
     QByteArray data(int(info.st_size), Qt::Uninitialized);
     qint64 total = 0;
     for (;;) {
@@ -80,25 +80,18 @@ bool readAll(int fd, QByteArray *bytes, QString *error)
         const ssize_t got = ::pread(fd, data.data() + total, size_t(data.size() - total), total);
         if (got < 0 && errno == EINTR)
             continue;
-        if (got < 0) {
-            *error = systemError(errno);
-            return false;
-        }
+        if (got < 0)
+            return failed(systemError(errno));
         if (got == 0)
             break;
         total += got;
-        if (total > largestReadable) {
-            *error = systemError(EFBIG);
-            return false;
-        }
+        if (total > largestReadable)
+            return failed(systemError(EFBIG));
     }
-    if (total < info.st_size) {
-        *error = QCoreApplication::translate("SafeFile", "it could not be read completely");
-        return false;
-    }
+    if (total < info.st_size)
+        return failed(QCoreApplication::translate("SafeFile", "it could not be read completely"));
     data.resize(int(total));
-    *bytes = data;
-    return true;
+    return data;
 }
 
 // Writes the bytes from `from` on to the same place in the file.
@@ -121,23 +114,20 @@ bool writeAll(int fd, const QByteArray &bytes, qint64 from = 0)
 }
 
 // Whether a missing file could be made there.
-bool canCreate(const QString &path, QString *error)
+Status canCreate(const QString &path)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const auto failed = [&path](int code) {
+        return Failure{path, Failure::Step::Create, systemError(code)};
+    };
     struct stat info;
-    if (::stat(folder.constData(), &info) != 0) {
-        *error = systemError(errno);
-        return false;
-    }
-    if (!S_ISDIR(info.st_mode)) {
-        *error = systemError(ENOTDIR);
-        return false;
-    }
-    if (::access(folder.constData(), W_OK | X_OK) != 0) {
-        *error = systemError(errno);
-        return false;
-    }
-    return true;
+    if (::stat(folder.constData(), &info) != 0)
+        return failed(errno);
+    if (!S_ISDIR(info.st_mode))
+        return failed(ENOTDIR);
+    if (::access(folder.constData(), W_OK | X_OK) != 0)
+        return failed(errno);
+    return Status();
 }
 
 // Files larger than the process may write fail before anything is written:
@@ -189,9 +179,9 @@ Result<Contents> read(const QString &path)
     if ((scratch ? ::lstat(name.constData(), &info) : ::stat(name.constData(), &info)) != 0) {
         if (errno != ENOENT)
             return failed(Failure::Step::Open, systemError(errno));
-        QString error;
-        if (!canCreate(path, &error))
-            return failed(Failure::Step::Create, error);
+        const Status creatable = canCreate(path);
+        if (!creatable)
+            return creatable.failure();
         return Contents();
     }
     // Anything but a regular file (a FIFO would block) counts as unopenable.
@@ -207,12 +197,10 @@ Result<Contents> read(const QString &path)
     // The same checks on what was opened, in case the name changed meanwhile.
     if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || (scratch && !isOurs(info)))
         return failed(Failure::Step::Open, S_ISREG(info.st_mode) ? notOurs() : notRegular());
-    Contents contents;
-    contents.exists = true;
-    QString error;
-    if (!readAll(fd, &contents.bytes, &error))
-        return failed(Failure::Step::Read, error);
-    return contents;
+    const Result<QByteArray> bytes = readAll(fd);
+    if (!bytes)
+        return failed(Failure::Step::Read, bytes.reason());
+    return Contents{true, bytes.value()};
 }
 
 Status rewrite(const QString &path, bool existed, const QByteArray &before, const QByteArray &after)
@@ -233,11 +221,10 @@ Status rewrite(const QString &path, bool existed, const QByteArray &before, cons
     if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || (scratch && !isOurs(info)))
         return failed(Failure::Step::Open, S_ISREG(info.st_mode) ? notOurs() : notRegular());
 
-    QByteArray current;
-    QString error;
-    if (!readAll(fd, &current, &error))
-        return failed(Failure::Step::Read, error);
-    if (current != before)
+    const Result<QByteArray> current = readAll(fd);
+    if (!current)
+        return failed(Failure::Step::Read, current.reason());
+    if (current.value() != before)
         return failed(
             Failure::Step::Read,
             QCoreApplication::translate("SafeFile", "another program changed it during the save"));

@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 #include <cstring>
+#include <optional>
 
 namespace LineGrammar {
 
@@ -34,6 +35,25 @@ const char *findKeyword(const char *from, const char *end)
             return x - 1;
     }
     return nullptr;
+}
+
+// Where "(.+)\b" ends a value that starts at `valueStart` in a line of `n`
+// characters: at the last word boundary, which is `valueStart` when there is
+// none. `isWord(at)` tells whether the character at `at` is a word character;
+// when it cannot tell, the result is -1.
+template <typename IsWord>
+int valueEnd(int valueStart, int n, IsWord isWord)
+{
+    std::optional<bool> after = false; // beyond the line is no word character
+    for (int end = n; end > valueStart; --end) {
+        const std::optional<bool> before = isWord(end - 1);
+        if (!before)
+            return -1;
+        if (*before != *after)
+            return end;
+        after = before;
+    }
+    return valueStart;
 }
 
 // The first "export" in the line at or after `from`, or -1; found through
@@ -84,14 +104,7 @@ bool findExport(QStringView line, ExportSpan *span)
 
         // "(.+)\b": at least one character, up to the last word boundary.
         const int valueStart = i + 1;
-        int end = n;
-        bool after = false; // beyond the line is no word character
-        for (; end > valueStart; --end) {
-            const bool before = isPatternWordChar(s[end - 1]);
-            if (before != after)
-                break;
-            after = before;
-        }
+        const int end = valueEnd(valueStart, n, [s](int at) { return isPatternWordChar(s[at]); });
         if (end == valueStart)
             continue;
 
@@ -209,16 +222,13 @@ Quick quickFindExport(const char *s, int n, int *nameStart, int *nameLength)
             continue;
 
         const int valueStart = i + 1;
-        int end = n;
-        bool after = false;
-        for (; end > valueStart; --end) {
-            if (!isAscii(s[end - 1]))
-                return Quick::Unsure;
-            const bool before = isAsciiWord(s[end - 1]);
-            if (before != after)
-                break;
-            after = before;
-        }
+        const int end = valueEnd(valueStart, n, [s](int at) -> std::optional<bool> {
+            if (!isAscii(s[at]))
+                return std::nullopt;
+            return isAsciiWord(s[at]);
+        });
+        if (end < 0)
+            return Quick::Unsure;
         if (end == valueStart)
             continue;
         *nameStart = start;

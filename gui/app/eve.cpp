@@ -91,13 +91,13 @@ void Eve::initDesktopUi()
     setWindowIconText(tr("Orv env editor"));
 
     // Theme icons replace the form's; a theme without one leaves no icon.
-    actionSave->setIcon(QIcon::fromTheme(QStringLiteral("document-save"), QIcon()));
-    actionReset->setIcon(QIcon::fromTheme(QStringLiteral("document-revert"), QIcon()));
-    actionQuit->setIcon(QIcon::fromTheme(QStringLiteral("application-exit"), QIcon()));
-    actionAdd->setIcon(QIcon::fromTheme(QStringLiteral("list-add"), QIcon()));
-    actionDelete->setIcon(QIcon::fromTheme(QStringLiteral("list-remove"), QIcon()));
-    actionEdit->setIcon(QIcon::fromTheme(QStringLiteral("document-properties"), QIcon()));
-    actionPreferences->setIcon(QIcon::fromTheme(QStringLiteral("configure"), QIcon()));
+    const std::pair<QAction *, const char *> icons[] = {
+        {actionSave, "document-save"},    {actionReset, "document-revert"},
+        {actionQuit, "application-exit"}, {actionAdd, "list-add"},
+        {actionDelete, "list-remove"},    {actionEdit, "document-properties"},
+        {actionPreferences, "configure"}};
+    for (const auto &[action, name] : icons)
+        action->setIcon(QIcon::fromTheme(QLatin1String(name), QIcon()));
 
     QMenuBar *bar = menuBar();
     bar->addMenu(new OrvHelpMenu(this));

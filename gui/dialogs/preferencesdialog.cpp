@@ -32,14 +32,13 @@ preferencesDialog::preferencesDialog(QWidget *parent, EveModel *model)
 
     setWindowTitle(tr("Preferences"));
     // Theme icons replace the form's; a theme without one leaves the button blank.
-    userAddButton->setIcon(QIcon::fromTheme(QStringLiteral("list-add"), QIcon()));
-    userRemoveButton->setIcon(QIcon::fromTheme(QStringLiteral("list-remove"), QIcon()));
-    userUpButton->setIcon(QIcon::fromTheme(QStringLiteral("go-up"), QIcon()));
-    userDownButton->setIcon(QIcon::fromTheme(QStringLiteral("go-down"), QIcon()));
-    systemAddButton->setIcon(QIcon::fromTheme(QStringLiteral("list-add"), QIcon()));
-    systemRemoveButton->setIcon(QIcon::fromTheme(QStringLiteral("list-remove"), QIcon()));
-    systemUpButton->setIcon(QIcon::fromTheme(QStringLiteral("go-up"), QIcon()));
-    systemDownButton->setIcon(QIcon::fromTheme(QStringLiteral("go-down"), QIcon()));
+    const std::pair<QPushButton *, const char *> icons[] = {
+        {userAddButton, "list-add"},   {userRemoveButton, "list-remove"},
+        {userUpButton, "go-up"},       {userDownButton, "go-down"},
+        {systemAddButton, "list-add"}, {systemRemoveButton, "list-remove"},
+        {systemUpButton, "go-up"},     {systemDownButton, "go-down"}};
+    for (const auto &[button, name] : icons)
+        button->setIcon(QIcon::fromTheme(QLatin1String(name), QIcon()));
 
     buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
     buttonBox->setFocus(Qt::OtherFocusReason);

@@ -4,6 +4,7 @@
 #include "gui/history/previewdialog.h"
 #include "gui/model/evemodel.h"
 #include "gui/window/editorwindow.h"
+#include "gui/window/toolscommand.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -14,15 +15,14 @@ PreviewCommand::PreviewCommand(EditorWindow *window)
     , window(window)
     , previewAction(new QAction(tr("Pre&view changes..."), window->window()))
 {
-    previewAction->setObjectName(QStringLiteral("actionPreviewChanges"));
-    previewAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    previewAction->setStatusTip(tr("Show every line the next save would change in each file"));
-    previewAction->setIcon(QIcon::fromTheme(QStringLiteral("document-preview")));
+    addToolsCommand(window, previewAction, QStringLiteral("actionPreviewChanges"),
+                    tr("Show every line the next save would change in each file"),
+                    QStringLiteral("document-preview"),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     QAction *save = window->saveAction();
     previewAction->setEnabled(save->isEnabled());
     connect(save, &QAction::changed, previewAction,
             [this, save] { previewAction->setEnabled(save->isEnabled()); });
-    window->toolsMenu()->addAction(previewAction);
     connect(previewAction, &QAction::triggered, this, &PreviewCommand::run);
 }
 

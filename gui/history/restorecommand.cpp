@@ -5,6 +5,7 @@
 #include "gui/history/restoredialog.h"
 #include "gui/model/evemodel.h"
 #include "gui/window/editorwindow.h"
+#include "gui/window/toolscommand.h"
 
 #include <QFileInfo>
 #include <QMainWindow>
@@ -16,10 +17,9 @@ RestoreCommand::RestoreCommand(EditorWindow *window)
     , window(window)
     , restoreAction(new QAction(tr("&Restore..."), window->window()))
 {
-    restoreAction->setObjectName(QStringLiteral("actionRestore"));
-    restoreAction->setStatusTip(tr("Put back an earlier version of a start-up file"));
-    restoreAction->setIcon(QIcon::fromTheme(QStringLiteral("document-revert")));
-    window->toolsMenu()->addAction(restoreAction);
+    addToolsCommand(window, restoreAction, QStringLiteral("actionRestore"),
+                    tr("Put back an earlier version of a start-up file"),
+                    QStringLiteral("document-revert"));
     connect(restoreAction, &QAction::triggered, this, &RestoreCommand::run);
 }
 

@@ -2,6 +2,7 @@
 
 #include "gui/lookup/rowfilter.h"
 #include "gui/window/editorwindow.h"
+#include "gui/window/toolscommand.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -30,10 +31,8 @@ FilterBar::FilterBar(EditorWindow *window)
     window->toolBar()->addWidget(edit);
 
     action = new QAction(tr("&Filter variables"), main);
-    action->setObjectName(QStringLiteral("actionFilter"));
-    action->setShortcut(QKeySequence::Find);
-    action->setIcon(QIcon::fromTheme(QStringLiteral("edit-find")));
-    window->toolsMenu()->addAction(action);
+    addToolsCommand(window, action, QStringLiteral("actionFilter"), QString(),
+                    QStringLiteral("edit-find"), QKeySequence::Find);
     connect(action, &QAction::triggered, edit, [this] {
         edit->setFocus(Qt::ShortcutFocusReason);
         edit->selectAll();

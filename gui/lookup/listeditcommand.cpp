@@ -5,6 +5,7 @@
 #include "gui/model/evemodel.h"
 #include "gui/window/currentrowaction.h"
 #include "gui/window/editorwindow.h"
+#include "gui/window/toolscommand.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -15,11 +16,9 @@ ListEditCommand::ListEditCommand(EditorWindow *window)
     , window(window)
     , editAction(new CurrentRowAction(tr("Edit as &list..."), window->table(), window->window()))
 {
-    editAction->setObjectName(QStringLiteral("actionEditAsList"));
-    editAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
-    editAction->setStatusTip(tr("Edit a colon-separated value such as PATH one entry per line"));
-    editAction->setIcon(QIcon::fromTheme(QStringLiteral("format-list-unordered")));
-    window->toolsMenu()->addAction(editAction);
+    addToolsCommand(window, editAction, QStringLiteral("actionEditAsList"),
+                    tr("Edit a colon-separated value such as PATH one entry per line"),
+                    QStringLiteral("format-list-unordered"), QKeySequence(Qt::CTRL | Qt::Key_L));
     connect(editAction, &QAction::triggered, this, &ListEditCommand::run);
 }
 

@@ -4,6 +4,7 @@
 #include "gui/model/evemodel.h"
 #include "gui/window/currentrowaction.h"
 #include "gui/window/editorwindow.h"
+#include "gui/window/toolscommand.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -16,12 +17,9 @@ WhereSetCommand::WhereSetCommand(EditorWindow *window)
     , whereAction(
           new CurrentRowAction(tr("&Where is it set?..."), window->table(), window->window()))
 {
-    whereAction->setObjectName(QStringLiteral("actionWhereSet"));
-    whereAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
-    whereAction->setStatusTip(
-        tr("Show every line of the start-up files that sets the selected variable"));
-    whereAction->setIcon(QIcon::fromTheme(QStringLiteral("edit-find")));
-    window->toolsMenu()->addAction(whereAction);
+    addToolsCommand(window, whereAction, QStringLiteral("actionWhereSet"),
+                    tr("Show every line of the start-up files that sets the selected variable"),
+                    QStringLiteral("edit-find"), QKeySequence(Qt::CTRL | Qt::Key_I));
     connect(whereAction, &QAction::triggered, this, &WhereSetCommand::run);
 }
 
