@@ -677,7 +677,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>FilterBar</name>
     <message>
-        <location filename="../gui/lookup/filterbar.cpp" line="+23"/>
+        <location filename="../gui/lookup/filterbar.cpp" line="+24"/>
         <source>Filter variables</source>
         <translation>Variablen filtern</translation>
     </message>
@@ -692,7 +692,7 @@ werden (sie bleibt, wie sie war).
         <translation>Variablen &amp;filtern</translation>
     </message>
     <message>
-        <location line="+45"/>
+        <location line="+43"/>
         <source>%1 of %2 variables</source>
         <translation>Variablen: %1 von %2</translation>
     </message>
@@ -700,12 +700,12 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ListEditCommand</name>
     <message>
-        <location filename="../gui/lookup/listeditcommand.cpp" line="+16"/>
+        <location filename="../gui/lookup/listeditcommand.cpp" line="+17"/>
         <source>Edit as &amp;list...</source>
         <translation>Als &amp;Liste bearbeiten...</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+3"/>
         <source>Edit a colon-separated value such as PATH one entry per line</source>
         <translation>Einen durch Doppelpunkte getrennten Wert wie PATH Eintrag für Eintrag bearbeiten</translation>
     </message>
@@ -874,12 +874,12 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>PreviewCommand</name>
     <message>
-        <location filename="../gui/history/previewcommand.cpp" line="+15"/>
+        <location filename="../gui/history/previewcommand.cpp" line="+16"/>
         <source>Pre&amp;view changes...</source>
         <translation>&amp;Vorschau der Änderungen...</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+3"/>
         <source>Show every line the next save would change in each file</source>
         <translation>Jede Zeile zeigen, die das nächste Speichern in jeder Datei ändern würde</translation>
     </message>
@@ -935,7 +935,7 @@ werden (sie bleibt, wie sie war).
         <translation>sie ist keine gewöhnliche Datei</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>it could not be read completely</source>
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
@@ -958,7 +958,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>RestoreCommand</name>
     <message>
-        <location filename="../gui/history/restorecommand.cpp" line="+17"/>
+        <location filename="../gui/history/restorecommand.cpp" line="+18"/>
         <source>&amp;Restore...</source>
         <translation>Wieder&amp;herstellen...</translation>
     </message>
@@ -968,7 +968,7 @@ werden (sie bleibt, wie sie war).
         <translation>Eine frühere Fassung einer Startdatei zurückholen</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <location line="+8"/>
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
@@ -1037,12 +1037,12 @@ werden (sie bleibt, wie sie war).
         <translation>Von %1 gibt es keine früheren Kopien. Eine Kopie entsteht jedes Mal, wenn Speichern oder Wiederherstellen die Datei neu schreibt.</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The copy of %1 from %2 cannot be read: %3.</source>
         <translation>Die Kopie von %1 vom %2 kann nicht gelesen werden: %3.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>%1 kann jetzt nicht gelesen werden: %2.</translation>
     </message>
@@ -1086,12 +1086,12 @@ werden (sie bleibt, wie sie war).
         <translation>sie gehört einem anderen Benutzer oder hat mehr als einen Namen</translation>
     </message>
     <message>
-        <location line="+61"/>
+        <location line="+57"/>
         <source>it could not be read completely</source>
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+147"/>
+        <location line="+138"/>
         <source>another program changed it during the save</source>
         <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
     </message>
@@ -1137,6 +1137,44 @@ werden (sie bleibt, wie sie war).
         <location line="+4"/>
         <source>Not checked whether the file still parses: %1.</source>
         <translation>Nicht geprüft, ob die Datei syntaktisch korrekt bleibt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SideEffects</name>
+    <message>
+        <location filename="../core/preview/sideeffects.cpp" line="+62"/>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <location line="+69"/>
+        <source>changes %1 to %2</source>
+        <translation>ändert %1 auf %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>removes %1</source>
+        <translation>entfernt %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>rewrites the commented-out line %1 of %2</source>
+        <translation>schreibt die auskommentierte Zeile %1 von %2 neu</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>line %1 of %2</source>
+        <translation>Zeile %1 von %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>rewrites the commented-out %1</source>
+        <translation>schreibt die auskommentierten Zeilen neu: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>This save also %1.</source>
+        <translation>Dieses Speichern %1 außerdem.</translation>
     </message>
 </context>
 <context>
@@ -1242,12 +1280,12 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>WhereSetCommand</name>
     <message>
-        <location filename="../gui/lookup/wheresetcommand.cpp" line="+17"/>
+        <location filename="../gui/lookup/wheresetcommand.cpp" line="+18"/>
         <source>&amp;Where is it set?...</source>
         <translation>&amp;Wo wird sie gesetzt?...</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+3"/>
         <source>Show every line of the start-up files that sets the selected variable</source>
         <translation>Jede Zeile der Startdateien zeigen, die die ausgewählte Variable setzt</translation>
     </message>

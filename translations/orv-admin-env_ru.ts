@@ -676,7 +676,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>FilterBar</name>
     <message>
-        <location filename="../gui/lookup/filterbar.cpp" line="+23"/>
+        <location filename="../gui/lookup/filterbar.cpp" line="+24"/>
         <source>Filter variables</source>
         <translation>Фильтр переменных</translation>
     </message>
@@ -691,7 +691,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>&amp;Фильтр переменных</translation>
     </message>
     <message>
-        <location line="+45"/>
+        <location line="+43"/>
         <source>%1 of %2 variables</source>
         <translation>Переменные: %1 из %2</translation>
     </message>
@@ -699,12 +699,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ListEditCommand</name>
     <message>
-        <location filename="../gui/lookup/listeditcommand.cpp" line="+16"/>
+        <location filename="../gui/lookup/listeditcommand.cpp" line="+17"/>
         <source>Edit as &amp;list...</source>
         <translation>Изменить как &amp;список...</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+3"/>
         <source>Edit a colon-separated value such as PATH one entry per line</source>
         <translation>Изменить значение, разделённое двоеточиями (например, PATH), по одному элементу в строке</translation>
     </message>
@@ -873,12 +873,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>PreviewCommand</name>
     <message>
-        <location filename="../gui/history/previewcommand.cpp" line="+15"/>
+        <location filename="../gui/history/previewcommand.cpp" line="+16"/>
         <source>Pre&amp;view changes...</source>
         <translation>&amp;Предпросмотр изменений...</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+3"/>
         <source>Show every line the next save would change in each file</source>
         <translation>Показать каждую строку, которую следующее сохранение изменит в каждом файле</translation>
     </message>
@@ -934,7 +934,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>это не обычный файл</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+10"/>
         <source>it could not be read completely</source>
         <translation>его не удалось прочитать полностью</translation>
     </message>
@@ -957,7 +957,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>RestoreCommand</name>
     <message>
-        <location filename="../gui/history/restorecommand.cpp" line="+17"/>
+        <location filename="../gui/history/restorecommand.cpp" line="+18"/>
         <source>&amp;Restore...</source>
         <translation>&amp;Восстановить...</translation>
     </message>
@@ -967,7 +967,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Вернуть прежнюю версию файла запуска</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <location line="+8"/>
         <source>Restore</source>
         <translation>Восстановление</translation>
@@ -1036,12 +1036,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Прежних копий %1 нет. Копия создаётся каждый раз, когда сохранение или восстановление перезаписывает файл.</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The copy of %1 from %2 cannot be read: %3.</source>
         <translation>Не удаётся прочитать копию %1 от %2: %3.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>Сейчас не удаётся прочитать %1: %2.</translation>
     </message>
@@ -1085,12 +1085,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>он принадлежит другому пользователю или имеет больше одного имени</translation>
     </message>
     <message>
-        <location line="+61"/>
+        <location line="+57"/>
         <source>it could not be read completely</source>
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+147"/>
+        <location line="+138"/>
         <source>another program changed it during the save</source>
         <translation>другая программа изменила его во время сохранения</translation>
     </message>
@@ -1136,6 +1136,44 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <location line="+4"/>
         <source>Not checked whether the file still parses: %1.</source>
         <translation>Синтаксис файла не проверен: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SideEffects</name>
+    <message>
+        <location filename="../core/preview/sideeffects.cpp" line="+62"/>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <location line="+69"/>
+        <source>changes %1 to %2</source>
+        <translation>меняет %1 на %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>removes %1</source>
+        <translation>удаляет %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>rewrites the commented-out line %1 of %2</source>
+        <translation>перезаписывает закомментированную строку %1 в %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>line %1 of %2</source>
+        <translation>строку %1 в %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>rewrites the commented-out %1</source>
+        <translation>перезаписывает закомментированные строки: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>This save also %1.</source>
+        <translation>Это сохранение также %1.</translation>
     </message>
 </context>
 <context>
@@ -1241,12 +1279,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>WhereSetCommand</name>
     <message>
-        <location filename="../gui/lookup/wheresetcommand.cpp" line="+17"/>
+        <location filename="../gui/lookup/wheresetcommand.cpp" line="+18"/>
         <source>&amp;Where is it set?...</source>
         <translation>&amp;Где она задана?...</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+3"/>
         <source>Show every line of the start-up files that sets the selected variable</source>
         <translation>Показать все строки файлов запуска, задающие выбранную переменную</translation>
     </message>

@@ -91,3 +91,10 @@ void Sandbox::blockPath(const QString &path)
     QFile::remove(path);
     QDir().mkpath(path);
 }
+
+struct stat Sandbox::statusOf(const QString &path)
+{
+    struct stat info = {};
+    ::stat(QFile::encodeName(path).constData(), &info);
+    return info;
+}

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <sys/stat.h>
+
 // Keeps a test away from the real home, settings, /etc and /tmp: prepareProcess(),
 // before the QApplication exists, points HOME, XDG_CONFIG_HOME, XDG_DATA_HOME, XDG_RUNTIME_DIR,
 // TMPDIR, the settings and ORV_ADMIN_ENV_SYSROOT into one temporary directory, which a Sandbox
@@ -32,19 +34,9 @@ public:
     static QByteArray readFile(const QString &path);
     // A directory of that name: even root cannot open it as a file.
     static void blockPath(const QString &path);
+    // What stat() tells of the file: its inode, mode and owner.
+    static struct stat statusOf(const QString &path);
 
 private:
     static inline QString root; // the temporary directory
 };
-
-// Use instead of QTEST_MAIN: prepares the sandbox before the application.
-#define ORV_SANDBOX_TEST_MAIN(TestObject)                                                          \
-    int main(int argc, char *argv[])                                                               \
-    {                                                                                              \
-        Sandbox::prepareProcess();                                                                 \
-        QApplication app(argc, argv);                                                              \
-        app.setAttribute(Qt::AA_Use96Dpi, true);                                                   \
-        TestObject tc;                                                                             \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
-        return QTest::qExec(&tc, argc, argv);                                                      \
-    }

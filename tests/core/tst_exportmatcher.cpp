@@ -1,17 +1,12 @@
 #include "core/shell/exportmatcher.h"
-#include "gui/model/evemodel.h"
+#include "support/coresandboxtest.h"
 #include "support/randomlines.h"
-#include "support/sandbox.h"
-#include "support/tablehelpers.h"
 
 #include <QRegExp>
-#include <QtTest>
 
-#include <algorithm>
-
-// The fast ways to read start-up files and to sort the table give what the
-// plain ways give, for random inputs from fixed start values.
-class TestFastPaths : public QObject
+// The fast ways to read start-up files give what QRegExp gives, for random
+// inputs from fixed start values.
+class TestExportMatcher : public CoreSandboxTest
 {
     Q_OBJECT
 
@@ -74,34 +69,7 @@ private slots:
             QCOMPARE(names, exportedNames);
         }
     }
-
-    // As a stable sort by QString::compare with Qt::CaseInsensitive: ascending
-    // puts Z before A, descending A before Z, equal texts keep their order.
-    void sortsAsCaseInsensitiveCompare()
-    {
-        Sandbox sandbox;
-        // Case pairs, ASCII between the cases, the Kelvin sign (k), a surrogate pair.
-        const QStringList pieces{"a", "A", "k",      "K",      "z",      "Z",
-                                 "_", "`", "\u00e9", "\u00c9", "\u212a", "\U0001D400"};
-        QRandomGenerator random(4711);
-        EveModel model;
-        for (int i = 0; i < 1000; ++i) {
-            QString text;
-            for (int n = int(random.bounded(5)); n > 0; --n)
-                text += pieces.at(int(random.bounded(pieces.size())));
-            model.insertRows(model.rowCount(), 1, {text, "value"});
-        }
-        for (const int sign : {1, -1}) {
-            QStringList names = namesOf(model);
-            std::stable_sort(names.begin(), names.end(), [&](const QString &a, const QString &b) {
-                return sign * QString::compare(a, b, Qt::CaseInsensitive) > 0;
-            });
-            model.sort(EveModel::VariableColumn,
-                       sign > 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
-            QCOMPARE(namesOf(model), names);
-        }
-    }
 };
 
-ORV_SANDBOX_TEST_MAIN(TestFastPaths)
-#include "tst_fastpaths.moc"
+ORV_SANDBOX_CORE_TEST_MAIN(TestExportMatcher)
+#include "tst_exportmatcher.moc"

@@ -7,7 +7,6 @@
 
 #include <dlfcn.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -19,13 +18,6 @@ QByteArray startupFile(const QByteArray &foo = QByteArray(100, 'x'))
     for (int i = 0; i < 200; ++i)
         bytes += "alias l" + QByteArray::number(i) + "='ls -l'\n";
     return bytes;
-}
-
-struct stat statusOf(const QString &path)
-{
-    struct stat info = {};
-    ::stat(QFile::encodeName(path).constData(), &info);
-    return info;
 }
 
 } // namespace
@@ -175,7 +167,7 @@ private slots:
         const QString target = Sandbox::home() + "/dotfiles/bashrc";
         Sandbox::writeFile(target, startupFile());
         QVERIFY(QFile::remove(bashrc) && QFile::link(target, bashrc));
-        const ino_t inode = statusOf(target).st_ino;
+        const ino_t inode = Sandbox::statusOf(target).st_ino;
 
         for (int i = 0; i <= Backups::keptPerFile + 1; ++i) {
             setFoo(QString::number(i));
@@ -184,10 +176,10 @@ private slots:
 
         QVERIFY(QFileInfo(bashrc).isSymLink());
         QCOMPARE(Sandbox::readFile(target), startupFile("21"));
-        QCOMPARE(statusOf(target).st_ino, inode);
+        QCOMPARE(Sandbox::statusOf(target).st_ino, inode);
         const QList<Backups::Copy> copies = Backups::list(bashrc).value();
         QCOMPARE(copies.size(), Backups::keptPerFile);
-        QCOMPARE(statusOf(copies.first().path).st_mode & 07777, 0600u);
+        QCOMPARE(Sandbox::statusOf(copies.first().path).st_mode & 07777, 0600u);
         // Newest first: the last save copied the value of the one before.
         QCOMPARE(Sandbox::readFile(copies.first().path), startupFile("20"));
         QCOMPARE(Sandbox::readFile(copies.last().path), startupFile("1"));
@@ -242,7 +234,7 @@ private slots:
         QVERIFY(QFile::remove(scratch));
         QVERIFY(model().save());
         QCOMPARE(Sandbox::readFile(scratch), QByteArray("export FOO=2\n"));
-        QCOMPARE(statusOf(scratch).st_mode & 07777, 0600u);
+        QCOMPARE(Sandbox::statusOf(scratch).st_mode & 07777, 0600u);
     }
 };
 

@@ -2,6 +2,10 @@
 #include "support/sandboxtest.h"
 #include "support/tablehelpers.h"
 
+#include <QAbstractItemModelTester>
+
+#include <algorithm>
+
 // The session of every test: HOME, LOGNAME, SHELL and PATH, which the
 // catalogue marks critical, and EDITOR, which it does not.
 class TestEveModel : public SandboxTest
@@ -122,6 +126,57 @@ private slots:
         QCOMPARE(layoutChanges.count(), 2);
         QCOMPARE(model->deletedRows.size(), 1);
         QCOMPARE(model->deletedRows.value(0).value(0), "EDITOR");
+    }
+
+    // As a stable sort by QString::compare with Qt::CaseInsensitive: ascending
+    // puts Z before A, descending A before Z, equal texts keep their order.
+    void sortsAsCaseInsensitiveCompare()
+    {
+        // Case pairs, ASCII between the cases, the Kelvin sign (k), a surrogate pair.
+        const QStringList pieces{"a", "A", "k",      "K",      "z",      "Z",
+                                 "_", "`", "\u00e9", "\u00c9", "\u212a", "\U0001D400"};
+        QRandomGenerator random(4711);
+        for (int i = 0; i < 1000; ++i) {
+            QString text;
+            for (int n = int(random.bounded(5)); n > 0; --n)
+                text += pieces.at(int(random.bounded(pieces.size())));
+            model->insertRows(model->rowCount(), 1, {text, "value"});
+        }
+        for (const int sign : {1, -1}) {
+            QStringList names = namesOf(*model);
+            std::stable_sort(names.begin(), names.end(), [&](const QString &a, const QString &b) {
+                return sign * QString::compare(a, b, Qt::CaseInsensitive) > 0;
+            });
+            model->sort(EveModel::VariableColumn,
+                        sign > 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+            QCOMPARE(namesOf(*model), names);
+        }
+    }
+
+    // Qt's checker of item models watches the operations of the window and
+    // fails the test at the first broken rule. It accepts the layoutChanged
+    // that removeRows and sort send alone, and no columns without rows. It
+    // rejects a plain insertRows(row) below rowCount(), which announces `row`
+    // but appends ("Compared values are not the same ... c.next"); the
+    // window only ever appends, at rowCount().
+    void keepsTheRulesOfItemModelsThroughTheWindowsOperations()
+    {
+        QAbstractItemModelTester tester(model.data(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        answerer->addAnswer("Yes"); // SHELL is critical
+        QVERIFY(model->setData(cell("SHELL", EveModel::ValueColumn), "/bin/zsh"));
+        QVERIFY(model->setData(cell("EDITOR", 0), "EDITOR", "nano", "", "local", "", "nano",
+                               Qt::EditRole));
+        QVERIFY(model->insertRows(model->rowCount(), 1, {"NEW", "1", "", "local"}));
+        model->sort(EveModel::VariableColumn, Qt::AscendingOrder);
+        model->sort(EveModel::VariableColumn, Qt::DescendingOrder);
+        QVERIFY(model->removeRows(rowOf(*model, "NEW"), 1));
+        QVERIFY(model->reload());
+        // Down to no rows and no columns, then a first row, as in an empty session.
+        while (model->rowCount() > 0)
+            QVERIFY(model->removeRows(0, 1));
+        QVERIFY(model->insertRows(model->rowCount(), 1, {"NEW", "1", "", "local"}));
+        QCOMPARE(model->columnCount(), int(EveModel::ColumnCount));
     }
 
     void catalogueDescribesEveryWellKnownVariable_data()

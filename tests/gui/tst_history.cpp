@@ -10,8 +10,6 @@
 
 #include <QPushButton>
 
-#include <sys/stat.h>
-
 // A new value as the editor dialog sets it, which asks nothing.
 static void setValue(EveModel &model, const QString &name, const QString &value)
 {
@@ -19,13 +17,6 @@ static void setValue(EveModel &model, const QString &name, const QString &value)
     model.setData(model.index(rowOf(model, name), 0), name, value,
                   record.at(EveModel::DescriptionColumn), record.at(EveModel::ScopeColumn),
                   record.at(EveModel::VipColumn), value, Qt::EditRole);
-}
-
-static struct stat statOf(const QString &path)
-{
-    struct stat info = {};
-    ::stat(QFile::encodeName(path).constData(), &info);
-    return info;
 }
 
 enum class Edit { Change, ChangeOfARowWhoseFileCannotBeOpened, Add, Delete };
@@ -181,15 +172,15 @@ private slots:
     void programRestoresTheExactBytesInPlace()
     {
         QVERIFY(::chmod(QFile::encodeName(bashrc).constData(), 0640) == 0);
-        const ino_t inode = statOf(bashrc).st_ino;
+        const ino_t inode = Sandbox::statusOf(bashrc).st_ino;
 
         program.start(ORV_BACKUPS_PROGRAM, {"restore", copyPath});
         QVERIFY(program.waitForFinished(20000));
 
         QCOMPARE(program.exitCode(), 0);
         QCOMPARE(Sandbox::readFile(bashrc), firstVersion);
-        QCOMPARE(statOf(bashrc).st_ino, inode);
-        QCOMPARE(statOf(bashrc).st_mode & 07777, mode_t(0640));
+        QCOMPARE(Sandbox::statusOf(bashrc).st_ino, inode);
+        QCOMPARE(Sandbox::statusOf(bashrc).st_mode & 07777, mode_t(0640));
         QCOMPARE(Sandbox::readFile(Backups::list(bashrc)->value(0).path), secondVersion);
     }
 

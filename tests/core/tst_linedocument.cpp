@@ -1,8 +1,7 @@
 #include "core/save/linedocument.h"
 #include "core/shell/linegrammar.h"
+#include "support/coresandboxtest.h"
 #include "support/randomlines.h"
-
-#include <QtTest>
 
 namespace {
 
@@ -49,7 +48,7 @@ const QStringList valuePieces{"1", "x y", "\"q\"", "a\nb", "c\r", "\r\n", "2\\1"
 
 } // namespace
 
-class TestLineDocument : public QObject
+class TestLineDocument : public CoreSandboxTest
 {
     Q_OBJECT
 
@@ -81,5 +80,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestLineDocument)
+ORV_SANDBOX_CORE_TEST_MAIN(TestLineDocument)
 #include "tst_linedocument.moc"
