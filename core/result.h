@@ -20,6 +20,7 @@ struct Failure
         PutBack, // a write failed and the old bytes could not be put back
         Copy,    // no copy could be kept
         List,    // a folder could not be listed
+        Check,   // refused before anything was written
     };
 
     QString path;

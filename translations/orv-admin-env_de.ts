@@ -140,6 +140,11 @@ werden (sie bleibt, wie sie war).
     <name>ChangePreview</name>
     <message>
         <location filename="../core/preview/changepreview.cpp" line="+16"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. The save will write nothing.</source>
+        <translation>Der Wert von %1 kann nicht in eine Startdatei geschrieben werden: %2. Das Speichern schreibt nichts.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
         <translation>%1 wird in %2 gespeichert, weil die eigene Datei %3 nicht geöffnet werden kann: %4.</translation>
     </message>
@@ -621,7 +626,7 @@ werden (sie bleibt, wie sie war).
         <translation>Den Wert der Systemvariable wirklich ändern?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+231"/>
+        <location filename="../gui/model/evemodel.cpp" line="+236"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -631,15 +636,15 @@ werden (sie bleibt, wie sie war).
         <translation>WERT</translation>
     </message>
     <message>
-        <location line="-187"/>
+        <location line="-192"/>
         <location line="+34"/>
-        <location line="+153"/>
+        <location line="+158"/>
         <location line="+14"/>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <location line="-184"/>
+        <location line="-189"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
@@ -649,12 +654,12 @@ werden (sie bleibt, wie sie war).
         <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+42"/>
+        <location filename="../gui/model/evemodel.cpp" line="+47"/>
         <source>Warning!</source>
         <translation>Warnung!</translation>
     </message>
     <message>
-        <location line="-14"/>
+        <location line="-19"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
@@ -670,6 +675,11 @@ werden (sie bleibt, wie sie war).
     </message>
     <message>
         <location line="+3"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. Nothing was saved.</source>
+        <translation>Der Wert von %1 kann nicht in eine Startdatei geschrieben werden: %2. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
@@ -695,6 +705,19 @@ werden (sie bleibt, wie sie war).
         <location line="+43"/>
         <source>%1 of %2 variables</source>
         <translation>Variablen: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>LineGrammar</name>
+    <message>
+        <location filename="../core/shell/linegrammar.cpp" line="+29"/>
+        <source>it holds a line break or another control character</source>
+        <translation>er enthält einen Zeilenumbruch oder ein anderes Steuerzeichen</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>it opens a $(, ${ or ` that it does not close</source>
+        <translation>er öffnet ein $(, ${ oder `, das er nicht schließt</translation>
     </message>
 </context>
 <context>
@@ -1109,7 +1132,7 @@ werden (sie bleibt, wie sie war).
         <translation>%1 ist nicht installiert</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <source>%1 could not be started</source>
         <translation>%1 konnte nicht gestartet werden</translation>
     </message>
@@ -1119,7 +1142,7 @@ werden (sie bleibt, wie sie war).
         <translation>%1 wurde nicht innerhalb von %2 Sekunden fertig</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>%1 -n: the file still parses.</source>
         <translation>%1 -n: die Datei ist weiterhin syntaktisch korrekt.</translation>
     </message>

@@ -139,6 +139,11 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     <name>ChangePreview</name>
     <message>
         <location filename="../core/preview/changepreview.cpp" line="+16"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. The save will write nothing.</source>
+        <translation>Значение %1 нельзя записать в файл запуска: %2. Сохранение ничего не запишет.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>%1 is saved into %2, because its file %3 cannot be opened: %4.</source>
         <translation>%1 будет сохранена в %2, потому что её файл %3 не удаётся открыть: %4.</translation>
     </message>
@@ -620,7 +625,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Действительно изменить значение системной переменной?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+231"/>
+        <location filename="../gui/model/evemodel.cpp" line="+236"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -630,15 +635,15 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>ЗНАЧЕНИЕ</translation>
     </message>
     <message>
-        <location line="-187"/>
+        <location line="-192"/>
         <location line="+34"/>
-        <location line="+153"/>
+        <location line="+158"/>
         <location line="+14"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
     <message>
-        <location line="-184"/>
+        <location line="-189"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
@@ -648,12 +653,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Его содержимое до сохранения находится в %1.</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+42"/>
+        <location filename="../gui/model/evemodel.cpp" line="+47"/>
         <source>Warning!</source>
         <translation>Предупреждение!</translation>
     </message>
     <message>
-        <location line="-14"/>
+        <location line="-19"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Не удалось записать файл %1 для сохранения переменной %2: %3</translation>
     </message>
@@ -669,6 +674,11 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
     <message>
         <location line="+3"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. Nothing was saved.</source>
+        <translation>Значение %1 нельзя записать в файл запуска: %2. Ничего не сохранено.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Не удалось записать файл %1 для удаления переменной %2: %3</translation>
     </message>
@@ -694,6 +704,19 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <location line="+43"/>
         <source>%1 of %2 variables</source>
         <translation>Переменные: %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>LineGrammar</name>
+    <message>
+        <location filename="../core/shell/linegrammar.cpp" line="+29"/>
+        <source>it holds a line break or another control character</source>
+        <translation>оно содержит перевод строки или другой управляющий символ</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>it opens a $(, ${ or ` that it does not close</source>
+        <translation>оно открывает $(, ${ или `, которые не закрывает</translation>
     </message>
 </context>
 <context>
@@ -1108,7 +1131,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>%1 не установлен</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+12"/>
         <source>%1 could not be started</source>
         <translation>не удалось запустить %1</translation>
     </message>
@@ -1118,7 +1141,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>%1 не завершился за %2 с</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>%1 -n: the file still parses.</source>
         <translation>%1 -n: синтаксис файла по-прежнему верен.</translation>
     </message>

@@ -11,6 +11,11 @@ ChangePreview ChangePreview::of(const SaveInput &input, int shellKind, const QSt
     };
 
     ChangePreview preview;
+    for (const SavePlan::Refusal &refusal : plan.refusals)
+        preview.notices.append(
+            tr("The value of %1 cannot be written into a start-up file: %2. The save will "
+               "write nothing.")
+                .arg(refusal.name, refusal.reason));
     for (const SavePlan::Redirect &redirect : plan.redirects)
         preview.notices.append(
             tr("%1 is saved into %2, because its file %3 cannot be opened: %4.")

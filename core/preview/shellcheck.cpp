@@ -53,8 +53,7 @@ ShellCheck ShellCheck::run(const QString &shell, const QByteArray &script, int t
     environment.remove(QStringLiteral("BASH_ENV"));
     environment.remove(QStringLiteral("ENV"));
     process.setProcessEnvironment(environment);
-    // By name, so that its messages say "bash: line 3: ...".
-    process.start(shell, {QStringLiteral("-n")});
+    process.start(program, {QStringLiteral("-n")});
     if (!process.waitForStarted(timeoutMs)) {
         check.message = tr("%1 could not be started").arg(shell);
         return check;
@@ -75,6 +74,8 @@ ShellCheck ShellCheck::run(const QString &shell, const QByteArray &script, int t
     }
     check.outcome = Fails;
     check.message = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
+    // The shell names itself by the path it was started from: say "bash: line 3: ...".
+    check.message.replace(program + QLatin1Char(':'), shell + QLatin1Char(':'));
     return check;
 }
 

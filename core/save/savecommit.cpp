@@ -8,6 +8,12 @@
 SaveReport commitSave(const SavePlan &plan)
 {
     SaveReport report;
+    for (const SavePlan::Refusal &refusal : plan.refusals)
+        report.problems.append({SaveReport::Problem::Refused, refusal.name,
+                                Failure{QString(), Failure::Step::Check, refusal.reason}});
+    if (!report.problems.isEmpty())
+        return report;
+
     // Stored first, so descriptions survive a file that cannot be written.
     if (!plan.settings.isEmpty()) {
         QSettings settings;

@@ -16,6 +16,7 @@ struct SaveReport
             SavedOpen,    // neither a changed row's file nor its fallback opens; stopped
             DeletedOpen,  // a deleted row's file cannot be opened; that deletion is skipped
             DeletedWrite, // a deleted row's file could not be written
+            Refused,      // a changed row's value cannot be written; nothing was
         };
         Kind kind;
         QString name; // the variable
@@ -29,7 +30,8 @@ struct SaveReport
     bool complete() const { return rowsSaved && problems.isEmpty(); }
 };
 
-// Stores the settings of the plan, then writes its files in writeOrder():
+// Refuses the whole save when the plan refuses a value. Otherwise stores the
+// settings of the plan, then writes its files in writeOrder():
 // the files of saved rows stop the save at their first failure, the files of
 // deletions do not.
 SaveReport commitSave(const SavePlan &plan);

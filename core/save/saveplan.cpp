@@ -39,6 +39,9 @@ SavePlan planSave(const SaveInput &input, const FileReader &read)
         if (row.value(Record::Previous).isEmpty())
             continue;
         const QString name = row.value(Record::Variable);
+        const QString refusal = LineGrammar::valueRefusal(row.value(Record::Value));
+        if (!refusal.isEmpty())
+            plan.refusals.append({name, refusal});
         plan.settings.append({name, row.value(Record::Description), row.value(Record::Vip)});
 
         // A variable that a file already exports goes back to that file; new

@@ -54,6 +54,15 @@ struct SavePlan
     QVector<File> files;      // in the order they are first touched
     QList<Deletion> deletions;
     QList<Redirect> redirects;
+    // Changed rows whose value no quoting makes one shell word: the save
+    // writes nothing at all while there is one.
+    struct Refusal
+    {
+        QString name;
+        QString reason;
+    };
+    QList<Refusal> refusals;
+
     // A changed row for which neither its file nor the fallback can be
     // opened stops the save: nothing after it, and no deletions, are planned.
     bool stopped = false;

@@ -9,8 +9,15 @@
 namespace LineGrammar {
 
 // Trims the value, escapes its double quotes and wraps it in double quotes
-// when it holds a space.
+// when it holds a space, so that a login shell reads the written word back
+// as the value: a value it would read otherwise (a backslash, a single
+// quote, a tab, an operator) is wrapped too, with the backslashes that would
+// escape a quote doubled. `$` and backquotes are kept as written, to expand.
 QString quoteValue(const QString &value);
+
+// Why a value cannot be written as one word at all (a line break or another
+// control character, an unclosed $(, ${ or backquote), or an empty string.
+QString valueRefusal(const QString &value);
 
 // True when a name means itself inside the save's patterns "NAME=.*" and
 // "export.*NAME=.*", so the edits below can search for it as plain text.

@@ -117,6 +117,11 @@ bool EveModel::save()
         case SaveReport::Problem::DeletedOpen:
             text = tr("Couldn't open file %1 for deleting variable %2").arg(path, problem.name);
             break;
+        case SaveReport::Problem::Refused:
+            text = tr("The value of %1 cannot be written into a start-up file: %2. Nothing "
+                      "was saved.")
+                       .arg(problem.name, problem.failure.reason);
+            break;
         case SaveReport::Problem::DeletedWrite:
             text = tr("Couldn't write file %1 for deleting variable %2: %3")
                        .arg(path, problem.name, problem.failure.reason);

@@ -182,7 +182,8 @@ private slots:
         row("an empty new value counts as unchanged", "x=1", "", "x=1");
         row("the value is trimmed", "", "  x  ", "export FOO=x\n");
         row("a space calls for quotes", "", "a b", "export FOO=\"a b\"\n");
-        row("a tab calls for no quotes", "", "a\tb", "export FOO=a\tb\n");
+        row("a tab calls for quotes, so that the value stays one word", "", "a\tb",
+            "export FOO=\"a\tb\"\n");
         row("double quotes get backslashes", "", "\"x y\"", "export FOO=\"\\\"x y\\\"\"\n");
     }
     void writesTheAssignmentOfANewVariable()
@@ -290,6 +291,29 @@ private slots:
         QCOMPARE(cellOf(model, "FOO", EveModel::PreviousColumn), "1");
         QCOMPARE(model.deletedRows.size(), 1);
         QCOMPARE(QSettings().value("variables/FOO/description").toString(), "stored first");
+    }
+
+    // Nothing of the save happens, not even the rows before the refused one.
+    void aValueThatCannotBeOneWordSavesNothing()
+    {
+        const QByteArray before = "export FOO=1\n";
+        Sandbox::writeFile(bashrc, before);
+        Sandbox::setUserEnvironment({"FOO=1", "BAR=1"});
+        EveModel model;
+        model.setData(model.index(rowOf(model, "FOO"), 0), "FOO", "2", "not stored", "local", "",
+                      "2", Qt::EditRole);
+        model.setData(model.index(rowOf(model, "BAR"), 0), "BAR", "a\nb", "", "local", "", "",
+                      Qt::EditRole);
+        answerer->addAnswer("OK");
+
+        QVERIFY(!model.save());
+
+        QCOMPARE(answerer->seen.value(0).text,
+                 "The value of BAR cannot be written into a start-up file: it holds a line break "
+                 "or another control character. Nothing was saved.");
+        QCOMPARE(Sandbox::readFile(bashrc), before);
+        QVERIFY(!QSettings().contains("variables/FOO/description"));
+        QCOMPARE(cellOf(model, "FOO", EveModel::PreviousColumn), "1");
     }
 };
 
