@@ -139,7 +139,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>ChangePreview</name>
     <message>
-        <location filename="../core/preview/changepreview.cpp" line="+16"/>
+        <location filename="../core/preview/changepreview.cpp" line="+17"/>
         <source>The value of %1 cannot be written into a start-up file: %2. The save will write nothing.</source>
         <translation>Der Wert von %1 kann nicht in eine Startdatei geschrieben werden: %2. Das Speichern schreibt nichts.</translation>
     </message>
@@ -158,11 +158,16 @@ werden (sie bleibt, wie sie war).
         <source>%1 cannot be deleted: its file %2 cannot be opened: %3.</source>
         <translation>%1 kann nicht gelöscht werden: die Datei %2 kann nicht geöffnet werden: %3.</translation>
     </message>
+    <message>
+        <location line="+17"/>
+        <source>%1 line %2 refers to %3; the save writes %4 instead.</source>
+        <translation>%1 Zeile %2 verweist auf %3; das Speichern schreibt stattdessen %4.</translation>
+    </message>
 </context>
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../gui/app/eve.cpp" line="+90"/>
+        <location filename="../gui/app/eve.cpp" line="+94"/>
         <source>Orv environment variable editor</source>
         <translation>Orv-Editor für Umgebungsvariablen</translation>
     </message>
@@ -192,7 +197,17 @@ werden (sie bleibt, wie sie war).
         <translation>Die neuen Einstellungen wurden übernommen!</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+18"/>
+        <source>Save anyway</source>
+        <translation>Trotzdem speichern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Preview...</source>
+        <translation>Vorschau...</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>Changes were saved successfully!</source>
         <translation>Die Änderungen wurden erfolgreich gespeichert!</translation>
     </message>
@@ -207,7 +222,8 @@ werden (sie bleibt, wie sie war).
         <translation>Die Änderungen wurden gespeichert und werden nach einem Neustart der Sitzung wirksam!</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="-22"/>
+        <location line="+26"/>
         <location line="+91"/>
         <location line="+19"/>
         <source>Attention!</source>
@@ -626,7 +642,7 @@ werden (sie bleibt, wie sie war).
         <translation>Den Wert der Systemvariable wirklich ändern?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+236"/>
+        <location filename="../gui/model/evemodel.cpp" line="+241"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -636,15 +652,15 @@ werden (sie bleibt, wie sie war).
         <translation>WERT</translation>
     </message>
     <message>
-        <location line="-192"/>
+        <location line="-197"/>
         <location line="+34"/>
-        <location line="+158"/>
+        <location line="+163"/>
         <location line="+14"/>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <location line="-189"/>
+        <location line="-194"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
@@ -654,7 +670,7 @@ werden (sie bleibt, wie sie war).
         <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+47"/>
+        <location filename="../gui/model/evemodel.cpp" line="+52"/>
         <source>Warning!</source>
         <translation>Warnung!</translation>
     </message>

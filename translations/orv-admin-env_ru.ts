@@ -138,7 +138,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>ChangePreview</name>
     <message>
-        <location filename="../core/preview/changepreview.cpp" line="+16"/>
+        <location filename="../core/preview/changepreview.cpp" line="+17"/>
         <source>The value of %1 cannot be written into a start-up file: %2. The save will write nothing.</source>
         <translation>Значение %1 нельзя записать в файл запуска: %2. Сохранение ничего не запишет.</translation>
     </message>
@@ -157,11 +157,16 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <source>%1 cannot be deleted: its file %2 cannot be opened: %3.</source>
         <translation>%1 не удастся удалить: её файл %2 не удаётся открыть: %3.</translation>
     </message>
+    <message>
+        <location line="+17"/>
+        <source>%1 line %2 refers to %3; the save writes %4 instead.</source>
+        <translation>%1, строка %2 ссылается на %3; сохранение запишет вместо этого %4.</translation>
+    </message>
 </context>
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../gui/app/eve.cpp" line="+90"/>
+        <location filename="../gui/app/eve.cpp" line="+94"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -191,7 +196,17 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Новые настройки применены!</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+18"/>
+        <source>Save anyway</source>
+        <translation>Всё равно сохранить</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Preview...</source>
+        <translation>Просмотр...</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>Changes were saved successfully!</source>
         <translation>Изменения успешно сохранены!</translation>
     </message>
@@ -206,7 +221,8 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Изменения сохранены и вступят в силу после перезапуска сеанса!</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="-22"/>
+        <location line="+26"/>
         <location line="+91"/>
         <location line="+19"/>
         <source>Attention!</source>
@@ -625,7 +641,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Действительно изменить значение системной переменной?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+236"/>
+        <location filename="../gui/model/evemodel.cpp" line="+241"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -635,15 +651,15 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>ЗНАЧЕНИЕ</translation>
     </message>
     <message>
-        <location line="-192"/>
+        <location line="-197"/>
         <location line="+34"/>
-        <location line="+158"/>
+        <location line="+163"/>
         <location line="+14"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
     <message>
-        <location line="-189"/>
+        <location line="-194"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
@@ -653,7 +669,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Его содержимое до сохранения находится в %1.</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+47"/>
+        <location filename="../gui/model/evemodel.cpp" line="+52"/>
         <source>Warning!</source>
         <translation>Предупреждение!</translation>
     </message>

@@ -1,6 +1,7 @@
 #include "core/preview/changepreview.h"
 
 #include "core/lookup/whereset.h"
+#include "core/preview/frozenreferences.h"
 
 ChangePreview ChangePreview::of(const SaveInput &input, int shellKind, const QString &home,
                                 bool checkSyntax, const FileReader &read)
@@ -41,6 +42,12 @@ ChangePreview ChangePreview::of(const SaveInput &input, int shellKind, const QSt
         file.after = planned.after;
         file.surprises = Surprises::find(planned.before, planned.after, planned.savedNames,
                                          planned.deletedNames);
+        const QList<FrozenReference> frozen =
+            FrozenReference::find(planned.before, planned.after, planned.savedNames);
+        for (const FrozenReference &reference : frozen)
+            preview.notices.append(tr("%1 line %2 refers to %3; the save writes %4 instead.")
+                                       .arg(shown(planned.path), QString::number(reference.line),
+                                            reference.reference, reference.written));
         const QString shell = ShellCheck::shellFor(planned.path, shellKind);
         if (checkSyntax) {
             file.check = ShellCheck::run(shell, planned.after);

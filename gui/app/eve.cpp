@@ -1,10 +1,13 @@
 #include "gui/app/eve.h"
 
+#include "core/preview/sideeffects.h"
+#include "core/save/saveplan.h"
 #include "core/settings/settingkeys.h"
 #include "gui/app/eveport.h"
 #include "gui/dialogs/preferencesdialog.h"
 #include "gui/dialogs/ueditor.h"
 #include "gui/history/history.h"
+#include "gui/history/previewcommand.h"
 #include "gui/lookup/lookup.h"
 #include "gui/model/evemodel.h"
 #include "platform/orvintegration.h"
@@ -13,6 +16,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 
 // The form icons live in the gui library, which is linked statically.
@@ -269,7 +273,36 @@ void Eve::showPreferencesDialog()
 
 void Eve::save()
 {
-    if (model->save()) {
+    // The files are read once: what the question is about is what gets written.
+    const SavePlan plan = planSave(model->saveInput());
+    if (confirmSideEffects(plan))
+        saveChanges(plan);
+}
+
+bool Eve::confirmSideEffects(const SavePlan &plan)
+{
+    const SideEffects effects = SideEffects::of(plan);
+    if (effects.isEmpty())
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Attention!"), effects.sentence(model->homeDir),
+                    QMessageBox::NoButton, this);
+    QPushButton *saveAnyway = box.addButton(tr("Save anyway"), QMessageBox::AcceptRole);
+    QPushButton *preview = box.addButton(tr("Preview..."), QMessageBox::ActionRole);
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == preview) {
+        // Its own Save button saves what it shows.
+        if (auto *command = findChild<PreviewCommand *>())
+            command->run();
+    }
+    return box.clickedButton() == saveAnyway;
+}
+
+void Eve::saveChanges(const SavePlan &plan)
+{
+    if (model->save(plan)) {
         setModifiedFlag(false);
         statusBar()->showMessage(tr("Changes were saved successfully!"), 5000);
         QMessageBox::warning(this, tr("Changes were saved"),

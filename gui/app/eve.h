@@ -5,6 +5,7 @@
 #include <QMainWindow>
 
 class EveModel;
+struct SavePlan;
 class QHeaderView;
 
 // The editor's main window: the table of variables with its menus, tool bar
@@ -50,6 +51,10 @@ private:
                       const QString &description, const QString &scope, const QString &vip);
     // Drops unsaved changes and loads everything again.
     void reloadModel(const QString &message, int timeout);
+    // Save asks first when the save would change variables the user did not
+    // edit; the rest of the Save command follows.
+    bool confirmSideEffects(const SavePlan &plan);
+    void saveChanges(const SavePlan &plan);
 
     // The window as its features see it.
     friend class EvePort;

@@ -1,6 +1,9 @@
 #include "gui/app/eveport.h"
 
 #include "gui/app/eve.h"
+
+#include "core/save/saveplan.h"
+#include "gui/model/evemodel.h"
 #include "gui/window/toolsmenu.h"
 
 EvePort::EvePort(Eve *window)
@@ -47,6 +50,11 @@ void EvePort::updateRecord(const QModelIndex &index, const QString &name, const 
                            const QString &description, const QString &scope, const QString &vip)
 {
     eve->updateRecord(index, name, value, description, scope, vip);
+}
+
+void EvePort::saveReviewed()
+{
+    eve->saveChanges(planSave(eve->model->saveInput()));
 }
 
 void EvePort::reload(const QString &message, int timeout)

@@ -24,6 +24,7 @@ public:
     void updateRecord(const QModelIndex &index, const QString &name, const QString &value,
                       const QString &description, const QString &scope,
                       const QString &vip) override;
+    void saveReviewed() override;
     void reload(const QString &message, int timeout) override;
     void disableRowCommands() override;
 

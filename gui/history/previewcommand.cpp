@@ -39,5 +39,5 @@ void PreviewCommand::run()
     PreviewDialog dialog(preview, model->homeDir, window->window());
     // The window's own Save, with its messages, once the preview is gone.
     if (dialog.exec() == QDialog::Accepted)
-        window->saveAction()->trigger();
+        window->saveReviewed();
 }

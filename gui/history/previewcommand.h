@@ -15,10 +15,10 @@ public:
     explicit PreviewCommand(EditorWindow *window);
 
     QAction *action() const;
-
-private:
+    // Shows what the next save would write; its Save button saves.
     void run();
 
+private:
     EditorWindow *window;
     QAction *previewAction;
 };

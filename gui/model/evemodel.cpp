@@ -102,7 +102,12 @@ SaveInput EveModel::saveInput() const
 
 bool EveModel::save()
 {
-    const SaveReport report = commitSave(planSave(saveInput()));
+    return save(planSave(saveInput()));
+}
+
+bool EveModel::save(const SavePlan &plan)
+{
+    const SaveReport report = commitSave(plan);
     for (const SaveReport::Problem &problem : report.problems) {
         const QString &path = problem.failure.path;
         QString text;

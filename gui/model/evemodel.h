@@ -9,6 +9,7 @@
 
 class QFile;
 struct SaveInput;
+struct SavePlan;
 
 // The table of environment variables: one record of seven strings per row,
 // loaded from the process environment and the shell start-up files, and
@@ -58,6 +59,8 @@ public:
 
     bool reload();
     bool save();
+    // Carries out a plan made from saveInput() with the messages of save().
+    bool save(const SavePlan &plan);
     // What save() works from: the rows, the pending deletions and the files.
     SaveInput saveInput() const;
 

@@ -36,6 +36,9 @@ public:
     virtual void updateRecord(const QModelIndex &index, const QString &name, const QString &value,
                               const QString &description, const QString &scope,
                               const QString &vip) = 0;
+    // The Save command without its question about variables the user did not
+    // edit, for a save whose every change the user has seen.
+    virtual void saveReviewed() = 0;
     // Drops unsaved changes and loads everything again, as Reset does after
     // its question, with `message` in the status bar.
     virtual void reload(const QString &message, int timeout) = 0;

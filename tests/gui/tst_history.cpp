@@ -47,8 +47,8 @@ private slots:
     void init()
     {
         SandboxTest::init();
-        Sandbox::setUserEnvironment(
-            {"EDITOR=vi", "AWS_PROFILE=dev", "MANPATH=/usr/share/man", "LANG=en_US", "FOO=2"});
+        Sandbox::setUserEnvironment({"EDITOR=vi", "AWS_PROFILE=dev", "MANPATH=/usr/share/man",
+                                     "LANG=en_US", "FOO=2", "GOPATH=/home/go"});
         Sandbox::writeFile(bashrc, secondVersion);
         Sandbox::writeFile(copyPath, firstVersion);
     }
@@ -83,6 +83,10 @@ private slots:
         QTest::addRow("deleting PATH blanks the lines of the names that end in it")
             << "PATH" << Edit::Delete << QString()
             << QStringList{"MANPATH, GOPATH and LD_LIBRARY_PATH also change."} << true;
+        QTest::addRow("a saved value replaces a reference to another variable")
+            << "GOPATH" << Edit::Change << "/home/go"
+            << QStringList{"~/.bashrc line 4 refers to $HOME; the save writes /home/go instead."}
+            << true;
         QTest::addRow("a value with a quote is quoted, so the file still parses")
             << "LANG" << Edit::Change << "it's" << QStringList() << true;
         QTest::addRow("a row whose file cannot be opened goes to the user's file")
