@@ -2,9 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Backups</name>
+    <message>
+        <location filename="../core/files/backups.cpp" line="+271"/>
+        <source>it is not in the folder of copies</source>
+        <translation>sie liegt nicht im Ordner der Kopien</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>it is a symbolic link</source>
+        <translation>sie ist ein symbolischer Link</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine reguläre Datei</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>it belongs to another user</source>
+        <translation>sie gehört einem anderen Benutzer</translation>
+    </message>
+</context>
+<context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../cli/backups/backupstool.cpp" line="+25"/>
+        <location filename="../cli/backups/backupstool.cpp" line="+23"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Der Ordner der Kopien %1 kann nicht gelesen werden: %2
@@ -32,14 +55,21 @@
 </translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+6"/>
+        <source>%1 is not a copy that can be used: %2
+</source>
+        <translation>%1 ist keine verwendbare Kopie: %2
+</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>The copy %1 cannot be read: %2
 </source>
         <translation>Die Kopie %1 kann nicht gelesen werden: %2
 </translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>%1 cannot be read: %2
 </source>
         <translation>%1 kann nicht gelesen werden: %2
@@ -642,7 +672,7 @@ werden (sie bleibt, wie sie war).
         <translation>Den Wert der Systemvariable wirklich ändern?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+241"/>
+        <location filename="../gui/model/evemodel.cpp" line="+245"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -652,30 +682,31 @@ werden (sie bleibt, wie sie war).
         <translation>WERT</translation>
     </message>
     <message>
-        <location line="-197"/>
+        <location line="-201"/>
         <location line="+34"/>
-        <location line="+163"/>
+        <location line="+167"/>
         <location line="+14"/>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <location line="-194"/>
+        <location line="-198"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
     <message>
-        <location filename="../core/save/commit.cpp" line="+25"/>
+        <location filename="../core/save/commit.cpp" line="+26"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Ihr Inhalt von vor dem Speichern liegt in %1.</translation>
     </message>
     <message>
         <location filename="../gui/model/evemodel.cpp" line="+52"/>
+        <location line="+3"/>
         <source>Warning!</source>
         <translation>Warnung!</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="-22"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Speichern der Variable %2 nicht geschrieben werden: %3</translation>
     </message>
@@ -698,6 +729,11 @@ werden (sie bleibt, wie sie war).
         <location line="+5"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Die Datei %1 konnte zum Löschen der Variable %2 nicht geschrieben werden: %3</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Saved %1 without a copy: %2</source>
+        <translation>%1 wurde ohne Kopie gespeichert: %2</translation>
     </message>
 </context>
 <context>
@@ -969,7 +1005,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../core/save/restore.cpp" line="+26"/>
+        <location filename="../core/save/restore.cpp" line="+25"/>
         <source>it is not a regular file</source>
         <translation>sie ist keine gewöhnliche Datei</translation>
     </message>
@@ -979,7 +1015,7 @@ werden (sie bleibt, wie sie war).
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <source>The copy %1 cannot be read: %2</source>
         <translation>Die Kopie %1 kann nicht gelesen werden: %2</translation>
     </message>
@@ -1031,7 +1067,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../gui/history/restoredialog.cpp" line="+36"/>
+        <location filename="../gui/history/restoredialog.cpp" line="+34"/>
         <source>Restore an earlier version</source>
         <translation>Frühere Fassung wiederherstellen</translation>
     </message>
@@ -1081,7 +1117,7 @@ werden (sie bleibt, wie sie war).
         <translation>Die Kopie von %1 vom %2 kann nicht gelesen werden: %3.</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>%1 kann jetzt nicht gelesen werden: %2.</translation>
     </message>
@@ -1125,12 +1161,13 @@ werden (sie bleibt, wie sie war).
         <translation>sie gehört einem anderen Benutzer oder hat mehr als einen Namen</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location filename="../core/files/backups.cpp" line="+10"/>
+        <location filename="../core/files/safefile.cpp" line="+57"/>
         <source>it could not be read completely</source>
         <translation>sie konnte nicht vollständig gelesen werden</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location filename="../core/files/safefile.cpp" line="+138"/>
         <source>another program changed it during the save</source>
         <translation>ein anderes Programm hat sie während des Speicherns geändert</translation>
     </message>

@@ -2,9 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>Backups</name>
+    <message>
+        <location filename="../core/files/backups.cpp" line="+271"/>
+        <source>it is not in the folder of copies</source>
+        <translation>она находится не в папке копий</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>it is a symbolic link</source>
+        <translation>это символическая ссылка</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>it is not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>it belongs to another user</source>
+        <translation>она принадлежит другому пользователю</translation>
+    </message>
+</context>
+<context>
     <name>BackupsTool</name>
     <message>
-        <location filename="../cli/backups/backupstool.cpp" line="+25"/>
+        <location filename="../cli/backups/backupstool.cpp" line="+23"/>
         <source>Cannot read the folder of copies %1: %2
 </source>
         <translation>Не удаётся прочитать папку копий %1: %2
@@ -32,14 +55,21 @@
 </translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+6"/>
+        <source>%1 is not a copy that can be used: %2
+</source>
+        <translation>%1 — не копия, которую можно использовать: %2
+</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>The copy %1 cannot be read: %2
 </source>
         <translation>Не удаётся прочитать копию %1: %2
 </translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>%1 cannot be read: %2
 </source>
         <translation>Не удаётся прочитать %1: %2
@@ -641,7 +671,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Действительно изменить значение системной переменной?</translation>
     </message>
     <message>
-        <location filename="../gui/model/evemodel.cpp" line="+241"/>
+        <location filename="../gui/model/evemodel.cpp" line="+245"/>
         <source>__new__</source>
         <translation>__new__</translation>
     </message>
@@ -651,30 +681,31 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>ЗНАЧЕНИЕ</translation>
     </message>
     <message>
-        <location line="-197"/>
+        <location line="-201"/>
         <location line="+34"/>
-        <location line="+163"/>
+        <location line="+167"/>
         <location line="+14"/>
         <source>System</source>
         <translation>Система</translation>
     </message>
     <message>
-        <location line="-194"/>
+        <location line="-198"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
     <message>
-        <location filename="../core/save/commit.cpp" line="+25"/>
+        <location filename="../core/save/commit.cpp" line="+26"/>
         <source>Its content from before the save is kept in %1.</source>
         <translation>Его содержимое до сохранения находится в %1.</translation>
     </message>
     <message>
         <location filename="../gui/model/evemodel.cpp" line="+52"/>
+        <location line="+3"/>
         <source>Warning!</source>
         <translation>Предупреждение!</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="-22"/>
         <source>Couldn&apos;t write file %1 for saving variable %2: %3</source>
         <translation>Не удалось записать файл %1 для сохранения переменной %2: %3</translation>
     </message>
@@ -697,6 +728,11 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <location line="+5"/>
         <source>Couldn&apos;t write file %1 for deleting variable %2: %3</source>
         <translation>Не удалось записать файл %1 для удаления переменной %2: %3</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Saved %1 without a copy: %2</source>
+        <translation>%1 сохранён без копии: %2</translation>
     </message>
 </context>
 <context>
@@ -968,7 +1004,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Restore</name>
     <message>
-        <location filename="../core/save/restore.cpp" line="+26"/>
+        <location filename="../core/save/restore.cpp" line="+25"/>
         <source>it is not a regular file</source>
         <translation>это не обычный файл</translation>
     </message>
@@ -978,7 +1014,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+27"/>
         <source>The copy %1 cannot be read: %2</source>
         <translation>Не удаётся прочитать копию %1: %2</translation>
     </message>
@@ -1030,7 +1066,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>RestoreDialog</name>
     <message>
-        <location filename="../gui/history/restoredialog.cpp" line="+36"/>
+        <location filename="../gui/history/restoredialog.cpp" line="+34"/>
         <source>Restore an earlier version</source>
         <translation>Восстановить прежнюю версию</translation>
     </message>
@@ -1080,7 +1116,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Не удаётся прочитать копию %1 от %2: %3.</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>%1 cannot be read now: %2.</source>
         <translation>Сейчас не удаётся прочитать %1: %2.</translation>
     </message>
@@ -1124,12 +1160,13 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>он принадлежит другому пользователю или имеет больше одного имени</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location filename="../core/files/backups.cpp" line="+10"/>
+        <location filename="../core/files/safefile.cpp" line="+57"/>
         <source>it could not be read completely</source>
         <translation>его не удалось прочитать полностью</translation>
     </message>
     <message>
-        <location line="+138"/>
+        <location filename="../core/files/safefile.cpp" line="+138"/>
         <source>another program changed it during the save</source>
         <translation>другая программа изменила его во время сохранения</translation>
     </message>

@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <QIODevice>
 
-#include <cerrno>
-
 namespace {
 
 void print(QIODevice *device, const QString &text)
@@ -45,10 +43,17 @@ bool findCopy(const QString &argument, Backups::Copy *copy, QIODevice *err)
     copy->path = argument.contains(QLatin1Char('/'))
                      ? argument
                      : Backups::directory() + QLatin1Char('/') + argument;
-    if (!Backups::parseFileName(QFileInfo(copy->path).fileName(), &copy->original, &copy->time)) {
+    if (!Backups::parseFileName(QFileInfo(copy->path).fileName(), copy)) {
         print(
             err,
             BackupsTool::tr("%1 is not the name of a copy; \"list\" shows them.\n").arg(argument));
+        return false;
+    }
+    // Only the user's own copies: never a file someone else placed, nor a link.
+    const Result<QByteArray> bytes = Backups::readCopy(copy->path);
+    if (!bytes && bytes.failure().step == Failure::Step::Check) {
+        print(err, BackupsTool::tr("%1 is not a copy that can be used: %2\n")
+                       .arg(argument, bytes.reason()));
         return false;
     }
     return true;
@@ -56,10 +61,10 @@ bool findCopy(const QString &argument, Backups::Copy *copy, QIODevice *err)
 
 int diff(const Backups::Copy &copy, QIODevice *out, QIODevice *err)
 {
-    const Result<Restore::Contents> kept = Restore::read(copy.path);
-    if (!kept || !kept->exists) {
-        print(err, BackupsTool::tr("The copy %1 cannot be read: %2\n")
-                       .arg(copy.path, kept ? qt_error_string(ENOENT) : kept.reason()));
+    const Result<QByteArray> kept = Backups::readCopy(copy.path);
+    if (!kept) {
+        print(err,
+              BackupsTool::tr("The copy %1 cannot be read: %2\n").arg(copy.path, kept.reason()));
         return BackupsTool::Unreadable;
     }
     const Result<Restore::Contents> now = Restore::read(copy.original);
@@ -67,7 +72,7 @@ int diff(const Backups::Copy &copy, QIODevice *out, QIODevice *err)
         print(err, BackupsTool::tr("%1 cannot be read: %2\n").arg(copy.original, now.reason()));
         return BackupsTool::Unreadable;
     }
-    const QByteArray text = LineDiff::unified(now->bytes, kept->bytes, copy.original, copy.path);
+    const QByteArray text = LineDiff::unified(now->bytes, kept.value(), copy.original, copy.path);
     if (text.isEmpty())
         print(err, BackupsTool::tr("%1 is the same as the copy.\n").arg(copy.original));
     out->write(text);

@@ -1,5 +1,6 @@
 #include "core/files/backups.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,8 +9,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,18 +30,55 @@ QString encodePath(const QString &path)
     return encoded;
 }
 
-bool writeCopy(int fd, const QByteArray &bytes)
+Failure copyFailure(const QString &path, int code)
+{
+    return Failure{path, Failure::Step::Copy, qt_error_string(code)};
+}
+
+// Closes the descriptor when it goes out of scope.
+class Descriptor
+{
+public:
+    explicit Descriptor(int fd)
+        : fd(fd)
+    {}
+    ~Descriptor()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+    operator int() const { return fd; }
+
+private:
+    int fd;
+};
+
+bool writeAll(int fd, const QByteArray &bytes)
 {
     qint64 done = 0;
     while (done < bytes.size()) {
         const ssize_t put = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
         if (put < 0 && errno == EINTR)
             continue;
-        if (put <= 0)
+        if (put <= 0) {
+            if (put == 0)
+                errno = EIO;
             return false;
+        }
         done += put;
     }
-    return ::fsync(fd) == 0;
+    return true;
+}
+
+// A copy larger than the process may write fails before a byte is written:
+// the write past the limit would raise SIGXFSZ and end the program.
+bool fitsSizeLimit(qint64 size)
+{
+    struct rlimit limit;
+    return ::getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY ||
+           quint64(size) <= quint64(limit.rlim_cur);
 }
 
 // The folder, private to the user; made when missing.
@@ -47,8 +87,80 @@ Status makeDirectory(const QString &path)
     QDir().mkpath(QFileInfo(path).absolutePath());
     const QByteArray name = QFile::encodeName(path);
     if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
-        return Failure{path, Failure::Step::Copy, qt_error_string(errno)};
+        return copyFailure(path, errno);
     return Status();
+}
+
+void syncDirectory(const QString &folder)
+{
+    const Descriptor dir(
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (dir >= 0)
+        ::fsync(dir);
+}
+
+// Newest first: by the number, then by the time, then by the name.
+bool newerThan(const Copy &a, const Copy &b)
+{
+    if (a.number != b.number)
+        return a.number > b.number;
+    return a.time != b.time ? a.time > b.time : a.path > b.path;
+}
+
+// The copies in the folder, without asking whether it can be read.
+QList<Copy> copiesIn(const QString &folder, const QString &original)
+{
+    QList<Copy> copies;
+    const QFileInfoList entries =
+        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo &entry : entries) {
+        Copy copy;
+        if (!parseFileName(entry.fileName(), &copy))
+            continue;
+        if (!original.isEmpty() && copy.original != original)
+            continue;
+        copy.path = entry.filePath();
+        copy.size = entry.size();
+        copies.append(copy);
+    }
+    std::sort(copies.begin(), copies.end(), newerThan);
+    return copies;
+}
+
+const QString partialPrefix = QStringLiteral(".partial-");
+
+// Copies cut short by a program that ended while writing them: their names
+// carry the process, which is gone.
+void removeAbandoned(const QString &folder)
+{
+    const QStringList partials =
+        QDir(folder).entryList({partialPrefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
+    for (const QString &name : partials) {
+        const pid_t pid = name.mid(partialPrefix.size()).section(QLatin1Char('-'), 0, 0).toInt();
+        if (pid > 0 && ::kill(pid, 0) != 0 && errno == ESRCH)
+            QFile::remove(folder + QLatin1Char('/') + name);
+    }
+}
+
+// A whole copy under a temporary name, on the disk: the caller renames it.
+Result<QString> writeTemporary(const QString &folder, const QByteArray &bytes)
+{
+    for (int attempt = 0;; ++attempt) {
+        const QString path = folder + QLatin1Char('/') + partialPrefix +
+                             QStringLiteral("%1-%2").arg(::getpid()).arg(attempt);
+        const Descriptor fd(::open(QFile::encodeName(path).constData(),
+                                   O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (fd < 0) {
+            if (errno == EEXIST && attempt < 1000)
+                continue;
+            return copyFailure(path, errno);
+        }
+        if (writeAll(fd, bytes) && ::fsync(fd) == 0)
+            return path;
+        const int error = errno;
+        QFile::remove(path);
+        return copyFailure(path, error);
+    }
 }
 
 } // namespace
@@ -59,51 +171,40 @@ QString directory()
     return data.isEmpty() ? QString() : data + QStringLiteral("/backups");
 }
 
-QString fileName(const QString &original, const QDateTime &time)
+QString fileName(const QString &original, const QDateTime &time, int number)
 {
-    return encodePath(original) + QLatin1Char('@') + time.toUTC().toString(timeFormat);
+    QString name = encodePath(original) + QLatin1Char('@') + time.toUTC().toString(timeFormat);
+    if (number > 0)
+        name += QLatin1Char('~') + QString::number(number);
+    return name;
 }
 
-bool parseFileName(const QString &name, QString *original, QDateTime *time)
+bool parseFileName(const QString &name, Copy *copy)
 {
     const int at = name.lastIndexOf(QLatin1Char('@'));
     if (at <= 0)
         return false;
-    QDateTime parsed = QDateTime::fromString(name.mid(at + 1), timeFormat);
+    QString time = name.mid(at + 1);
+    int number = 0;
+    const int tilde = time.indexOf(QLatin1Char('~'));
+    if (tilde >= 0) {
+        bool ok = false;
+        number = time.mid(tilde + 1).toInt(&ok);
+        if (!ok || number <= 0)
+            return false;
+        time.truncate(tilde);
+    }
+    QDateTime parsed = QDateTime::fromString(time, timeFormat);
     parsed.setTimeSpec(Qt::UTC);
     const QString path = QUrl::fromPercentEncoding(name.left(at).toUtf8());
-    if (!parsed.isValid() || !path.startsWith(QLatin1Char('/')) || fileName(path, parsed) != name)
+    if (!parsed.isValid() || !path.startsWith(QLatin1Char('/')) ||
+        fileName(path, parsed, number) != name)
         return false;
-    *original = path;
-    *time = parsed;
+    copy->original = path;
+    copy->time = parsed;
+    copy->number = number;
     return true;
 }
-
-namespace {
-
-// The copies in the folder, without asking whether it can be read.
-QList<Copy> copiesIn(const QString &folder, const QString &original)
-{
-    QList<Copy> copies;
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QFileInfo &entry : entries) {
-        Copy copy;
-        if (!parseFileName(entry.fileName(), &copy.original, &copy.time))
-            continue;
-        if (!original.isEmpty() && copy.original != original)
-            continue;
-        copy.path = entry.filePath();
-        copy.size = entry.size();
-        copies.append(copy);
-    }
-    std::sort(copies.begin(), copies.end(), [](const Copy &a, const Copy &b) {
-        return a.time != b.time ? a.time > b.time : a.path > b.path;
-    });
-    return copies;
-}
-
-} // namespace
 
 Result<QList<Copy>> list(const QString &original)
 {
@@ -124,43 +225,78 @@ Result<QString> keep(const QString &original, const QByteArray &bytes)
 {
     const QString folder = directory();
     if (folder.isEmpty())
-        return Failure{folder, Failure::Step::Copy, qt_error_string(ENOENT)};
+        return copyFailure(folder, ENOENT);
+    if (!fitsSizeLimit(bytes.size()))
+        return copyFailure(folder, EFBIG);
     const Status made = makeDirectory(folder);
     if (!made)
         return made.failure();
 
-    // A name taken already (two saves within a millisecond) moves the time on.
+    removeAbandoned(folder);
+    const QList<Copy> earlier = copiesIn(folder, original);
+    const int number = earlier.isEmpty() ? 1 : earlier.first().number + 1;
+    const Result<QString> partial = writeTemporary(folder, bytes);
+    if (!partial)
+        return partial;
+    // Linked to its name only now, whole and synced; a name taken already
+    // (two copies within a millisecond) moves the time on.
     QDateTime time = QDateTime::currentDateTimeUtc();
     QString path;
-    int fd = -1;
-    for (int attempt = 0; fd < 0 && attempt < 1000; ++attempt, time = time.addMSecs(1)) {
-        path = folder + QLatin1Char('/') + fileName(original, time);
-        fd = ::open(QFile::encodeName(path).constData(),
-                    O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-        if (fd < 0 && errno != EEXIST)
+    int linked = -1;
+    for (int attempt = 0; linked != 0 && attempt < 1000; ++attempt, time = time.addMSecs(1)) {
+        path = folder + QLatin1Char('/') + fileName(original, time, number);
+        linked = ::link(QFile::encodeName(partial.value()).constData(),
+                        QFile::encodeName(path).constData());
+        if (linked != 0 && errno != EEXIST)
             break;
     }
-    if (fd < 0)
-        return Failure{path, Failure::Step::Copy, qt_error_string(errno)};
-    const bool written = writeCopy(fd, bytes);
-    const int writeError = errno;
-    ::close(fd);
-    if (!written) {
-        QFile::remove(path);
-        return Failure{path, Failure::Step::Copy, qt_error_string(writeError)};
-    }
-    // The copy's name must reach the disk too before the original changes.
-    const int dir =
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (dir >= 0) {
-        ::fsync(dir);
-        ::close(dir);
-    }
+    const int error = errno;
+    QFile::remove(partial.value());
+    if (linked != 0)
+        return copyFailure(path, error);
+    syncDirectory(folder);
 
-    const QList<Copy> copies = copiesIn(folder, original);
-    for (int i = keptPerFile; i < copies.size(); ++i)
-        QFile::remove(copies.at(i).path);
+    // The copy just made has the highest number, so it is never among these.
+    for (int i = keptPerFile - 1; i < earlier.size(); ++i)
+        QFile::remove(earlier.at(i).path);
     return path;
+}
+
+Result<QByteArray> readCopy(const QString &path)
+{
+    const auto refused = [&path](const char *reason) {
+        return Failure{path, Failure::Step::Check, QCoreApplication::translate("Backups", reason)};
+    };
+    if (QFileInfo(path).absolutePath() != QFileInfo(directory()).absoluteFilePath())
+        return refused(QT_TRANSLATE_NOOP("Backups", "it is not in the folder of copies"));
+    const Descriptor fd(::open(QFile::encodeName(path).constData(),
+                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (fd < 0) {
+        if (errno == ELOOP)
+            return refused(QT_TRANSLATE_NOOP("Backups", "it is a symbolic link"));
+        return Failure{path, Failure::Step::Open, qt_error_string(errno)};
+    }
+    struct stat info;
+    if (::fstat(fd, &info) != 0)
+        return Failure{path, Failure::Step::Open, qt_error_string(errno)};
+    if (!S_ISREG(info.st_mode))
+        return refused(QT_TRANSLATE_NOOP("Backups", "it is not a regular file"));
+    if (info.st_uid != ::geteuid())
+        return refused(QT_TRANSLATE_NOOP("Backups", "it belongs to another user"));
+    QByteArray bytes(int(info.st_size), Qt::Uninitialized);
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const ssize_t got = ::read(fd, bytes.data() + done, size_t(bytes.size() - done));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return Failure{path, Failure::Step::Read,
+                           got < 0 ? qt_error_string(errno)
+                                   : QCoreApplication::translate(
+                                         "SafeFile", "it could not be read completely")};
+        done += got;
+    }
+    return bytes;
 }
 
 } // namespace Backups

@@ -5,25 +5,26 @@
 
 #include <QCoreApplication>
 
-Result<QString> commitFile(const SavePlan::File &file)
+Result<CommittedFile> commitFile(const SavePlan::File &file)
 {
+    CommittedFile committed;
     if (file.existed && file.after == file.before)
-        return QString();
-    QString kept;
+        return committed;
     if (file.existed) {
-        // Without a copy (no writable data folder) the rewrite still goes on.
         const Result<QString> copy = Backups::keep(file.path, file.before);
         if (copy)
-            kept = copy.value();
+            committed.copy = copy.value();
+        else
+            committed.copyFailure = copy.reason();
     }
     const Status written = SafeFile::rewrite(file.path, file.existed, file.before, file.after);
     if (written)
-        return kept;
+        return committed;
     Failure failure = written.failure();
-    if (failure.step == Failure::Step::PutBack && !kept.isEmpty())
+    if (failure.step == Failure::Step::PutBack && !committed.copy.isEmpty())
         failure.reason +=
             QLatin1Char(' ') + QCoreApplication::translate(
                                    "EveModel", "Its content from before the save is kept in %1.")
-                                   .arg(kept);
+                                   .arg(committed.copy);
     return failure;
 }

@@ -1,12 +1,11 @@
 #include "core/save/restore.h"
 
+#include "core/files/backups.h"
 #include "core/files/safefile.h"
 #include "core/save/commit.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <cerrno>
 
 Result<Restore::Contents> Restore::read(const QString &path)
 {
@@ -39,10 +38,9 @@ Result<Restore::Contents> Restore::read(const QString &path)
 
 Result<QString> Restore::copy(const QString &copyPath, const QString &original)
 {
-    const Result<Contents> copy = read(copyPath);
-    if (!copy || !copy->exists)
-        return Failure{copyPath, Failure::Step::Read,
-                       copy ? qt_error_string(ENOENT) : copy.reason()};
+    const Result<QByteArray> copy = Backups::readCopy(copyPath);
+    if (!copy)
+        return Failure{copyPath, Failure::Step::Read, copy.reason()};
     const Result<SafeFile::Contents> now = SafeFile::read(original);
     if (!now)
         return Failure{original, Failure::Step::Open, now.reason()};
@@ -50,11 +48,11 @@ Result<QString> Restore::copy(const QString &copyPath, const QString &original)
     file.path = original;
     file.existed = now->exists;
     file.before = now->bytes;
-    file.after = copy->bytes;
-    const Result<QString> written = commitFile(file);
+    file.after = copy.value();
+    const Result<CommittedFile> written = commitFile(file);
     if (!written)
         return Failure{original, Failure::Step::Write, written.reason()};
-    return written;
+    return written->copy;
 }
 
 QString Restore::sentence(const Failure &failure)

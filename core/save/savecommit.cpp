@@ -5,6 +5,16 @@
 
 #include <QSettings>
 
+namespace {
+
+void noteCopy(SaveReport &report, const SavePlan::File &file, const Result<CommittedFile> &written)
+{
+    if (written && !written->copyFailure.isEmpty())
+        report.withoutCopies.append({file.path, Failure::Step::Copy, written->copyFailure});
+}
+
+} // namespace
+
 SaveReport commitSave(const SavePlan &plan)
 {
     SaveReport report;
@@ -29,7 +39,8 @@ SaveReport commitSave(const SavePlan &plan)
     int next = 0; // into order
     for (; next < order.size() && !plan.files.at(order.at(next)).savedNames.isEmpty(); ++next) {
         const SavePlan::File &file = plan.files.at(order.at(next));
-        const Result<QString> written = commitFile(file);
+        const Result<CommittedFile> written = commitFile(file);
+        noteCopy(report, file, written);
         if (!written) {
             report.problems.append(
                 {SaveReport::Problem::SavedWrite, file.savedNames.first(), written.failure()});
@@ -54,7 +65,8 @@ SaveReport commitSave(const SavePlan &plan)
         }
         if (next >= order.size() || order.at(next) != deletion.file)
             continue; // written already, or unchanged
-        const Result<QString> written = commitFile(plan.files.at(deletion.file));
+        const Result<CommittedFile> written = commitFile(plan.files.at(deletion.file));
+        noteCopy(report, plan.files.at(deletion.file), written);
         ++next;
         if (!written)
             report.problems.append(

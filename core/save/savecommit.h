@@ -24,6 +24,8 @@ struct SaveReport
     };
 
     QList<Problem> problems; // in the order they were met
+    // Files written without a copy of what they held, and why.
+    QList<Failure> withoutCopies;
     // Every changed row was written and the deletions were gone through: the
     // rows' change marks and the pending deletions can be dropped.
     bool rowsSaved = false;

@@ -12,8 +12,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <cerrno>
-
 namespace {
 
 constexpr int copyRole = Qt::UserRole; // index into the copies, or -1 for a file
@@ -143,11 +141,10 @@ void RestoreDialog::showChosen()
     const Backups::Copy &copy = copies.at(index);
     const QString file = WhereSet::displayPath(copy.original, home);
     const QString time = Restore::timeText(copy.time);
-    const Result<Restore::Contents> keptRead = Restore::read(copy.path);
-    if (!keptRead || !keptRead->exists) {
+    const Result<QByteArray> keptRead = Backups::readCopy(copy.path);
+    if (!keptRead) {
         statusLabel->setText(
-            tr("The copy of %1 from %2 cannot be read: %3.")
-                .arg(file, time, keptRead ? qt_error_string(ENOENT) : keptRead.reason()));
+            tr("The copy of %1 from %2 cannot be read: %3.").arg(file, time, keptRead.reason()));
         return;
     }
     const Result<Restore::Contents> nowRead = Restore::read(copy.original);
@@ -155,9 +152,9 @@ void RestoreDialog::showChosen()
         statusLabel->setText(tr("%1 cannot be read now: %2.").arg(file, nowRead.reason()));
         return;
     }
-    const Restore::Contents &kept = keptRead.value();
+    const QByteArray &kept = keptRead.value();
     const Restore::Contents &now = nowRead.value();
-    if (now.exists && now.bytes == kept.bytes) {
+    if (now.exists && now.bytes == kept) {
         statusLabel->setText(tr("The copy from %1 is the same as %2 now.").arg(time, file));
         return;
     }
@@ -165,7 +162,7 @@ void RestoreDialog::showChosen()
         now.exists ? tr("Restoring the copy from %1 changes these lines of %2:").arg(time, file)
                    : tr("%1 does not exist now; restoring the copy from %2 makes it again.")
                          .arg(file, time));
-    diffView->setDiff(LineDiff::unified(now.bytes, kept.bytes, tr("%1 (now)").arg(file),
+    diffView->setDiff(LineDiff::unified(now.bytes, kept, tr("%1 (now)").arg(file),
                                         tr("%1 (copy from %2)").arg(file, time)));
     restoreButton->setEnabled(true);
 }

@@ -134,6 +134,10 @@ bool EveModel::save(const SavePlan &plan)
         }
         QMessageBox::warning(nullptr, tr("Warning!"), text, QMessageBox::Ok);
     }
+    for (const Failure &failure : report.withoutCopies)
+        QMessageBox::warning(nullptr, tr("Warning!"),
+                             tr("Saved %1 without a copy: %2").arg(failure.path, failure.reason),
+                             QMessageBox::Ok);
     if (!report.rowsSaved)
         return false;
     for (QStringList &row : rows) {

@@ -10,6 +10,8 @@
 
 #include <QPushButton>
 
+#include <unistd.h>
+
 // A new value as the editor dialog sets it, which asks nothing.
 static void setValue(EveModel &model, const QString &name, const QString &value)
 {
@@ -217,6 +219,50 @@ private slots:
         QCOMPARE(program.exitCode(), exitCode);
         QCOMPARE(exitCode == 0 ? program.readAllStandardOutput() : program.readAllStandardError(),
                  output);
+    }
+
+    // Someone else's file, placed where a copy would be or named like one,
+    // is never written into a start-up file.
+    void programRestoresOnlyTheUsersOwnCopies_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("reason");
+        QTest::addRow("a copy outside the folder of copies") << "outside"
+                                                             << "it is not in the folder of copies";
+        QTest::addRow("a symbolic link in the folder") << "link"
+                                                       << "it is a symbolic link";
+        QTest::addRow("a folder named like a copy") << "folder"
+                                                    << "it is not a regular file";
+        QTest::addRow("a copy of another user") << "foreign"
+                                                << "it belongs to another user";
+    }
+    void programRestoresOnlyTheUsersOwnCopies()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, reason);
+        const QString name = Backups::fileName(bashrc, copyTime.addDays(1));
+        QString path = Backups::directory() + '/' + name;
+        if (kind == "outside") {
+            path = Sandbox::home() + '/' + name;
+            Sandbox::writeFile(path, firstVersion);
+        } else if (kind == "link") {
+            QVERIFY(QFile::link(copyPath, path));
+        } else if (kind == "folder") {
+            QVERIFY(QDir().mkpath(path));
+        } else {
+            if (::geteuid() != 0)
+                QSKIP("only root can give a file to another user");
+            Sandbox::writeFile(path, firstVersion);
+            QCOMPARE(::chown(QFile::encodeName(path).constData(), 65534, 65534), 0);
+        }
+
+        program.start(ORV_BACKUPS_PROGRAM, {"restore", path});
+        QVERIFY(program.waitForFinished(20000));
+
+        QCOMPARE(program.exitCode(), 2);
+        QCOMPARE(QString::fromLocal8Bit(program.readAllStandardError()),
+                 path + " is not a copy that can be used: " + reason + "\n");
+        QCOMPARE(Sandbox::readFile(bashrc), secondVersion);
     }
 
     // The diffs of the preview, Restore and the "diff" command, which patch reads.

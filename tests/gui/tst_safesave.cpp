@@ -124,6 +124,63 @@ private slots:
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
 
+    // The copy is checked against the limit before a byte of it is written:
+    // SIGXFSZ, which is not ignored here, would end the test.
+    void copyThatWouldPassTheSizeLimitIsNotStarted()
+    {
+        setFoo("2");
+        struct rlimit limit;
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+        const struct rlimit small = {rlim_t(startupFile().size() - 1), limit.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+
+        checkFailedSave(writeFailure(EFBIG));
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        QCOMPARE(Backups::list(bashrc)->size(), 0);
+    }
+
+    // Copies made while the clock was an hour ahead are older all the same;
+    // the copy a save has just made is never the one pruned.
+    void copiesArePrunedInTheOrderTheyWereMade()
+    {
+        const QDateTime ahead = QDateTime::currentDateTimeUtc().addSecs(3600);
+        for (int i = 0; i < Backups::keptPerFile; ++i)
+            Sandbox::writeFile(Backups::directory() + '/' +
+                                   Backups::fileName(bashrc, ahead.addSecs(i)),
+                               "earlier " + QByteArray::number(i));
+
+        setFoo("2");
+        QVERIFY(model().save());
+
+        const QList<Backups::Copy> copies = Backups::list(bashrc).value();
+        QCOMPARE(copies.size(), Backups::keptPerFile);
+        QCOMPARE(Sandbox::readFile(copies.first().path), startupFile());
+        QCOMPARE(copies.first().number, 1);
+        QCOMPARE(Sandbox::readFile(copies.last().path), "earlier 1"); // "earlier 0" went
+    }
+
+    // A copy is written under another name and renamed once whole; what a
+    // program that died while writing one left behind is cleared away.
+    void aCopyCutShortIsNeverListed()
+    {
+        QProcess gone;
+        gone.start("true", QStringList());
+        const qint64 pid = gone.processId();
+        QVERIFY(gone.waitForFinished());
+        const QString abandoned = Backups::directory() + QStringLiteral("/.partial-%1-0").arg(pid);
+        const QString running =
+            Backups::directory() + QStringLiteral("/.partial-%1-7").arg(::getppid());
+        Sandbox::writeFile(abandoned, "cut");
+        Sandbox::writeFile(running, "in the making");
+
+        setFoo("2");
+        QVERIFY(model().save());
+
+        QCOMPARE(Backups::list().value().size(), 1);
+        QVERIFY(!QFileInfo::exists(abandoned));
+        QVERIFY(QFileInfo::exists(running));
+    }
+
     void failureThatCannotBeUndoneNamesTheCopy()
     {
         setFoo("2");
@@ -185,14 +242,18 @@ private slots:
         QCOMPARE(Sandbox::readFile(copies.last().path), startupFile("1"));
     }
 
-    void saveGoesOnWithoutADataFolder()
+    // It says so: the content from before the save then exists nowhere.
+    void saveGoesOnWithoutADataFolderAndSaysSo()
     {
         QVERIFY(QDir(Sandbox::data()).removeRecursively());
         Sandbox::writeFile(Sandbox::data(), "");
         setFoo("2");
+        answerer->addAnswer("OK");
 
         QVERIFY(model().save());
         QCOMPARE(Sandbox::readFile(bashrc), startupFile("2"));
+        QCOMPARE(answerer->seen.value(0).text,
+                 "Saved " + bashrc + " without a copy: " + qt_error_string(ENOTDIR));
     }
 
     void scratchFileIsUsedOnlyWhenItIsOurs_data()
