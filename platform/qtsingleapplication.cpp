@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -39,12 +40,45 @@ QString instanceKey()
     return QStringLiteral("qtsingleapp-%1-%2").arg(name).arg(::getuid());
 }
 
-// Private to the user where the session provides such a folder; the shared
-// temporary folder otherwise.
-QString runtimeDirectory()
+// Where the lock may live, in the order tried: the session's runtime folder,
+// private to the user; the shared temporary folder; a folder of our own in
+// it, for when another user has put a file of our name there. Every start
+// tries them in the same order, so all of them agree on one lock.
+QStringList lockFolders()
 {
+    QStringList folders;
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return runtime.isEmpty() ? QDir::tempPath() : runtime;
+    if (!runtime.isEmpty())
+        folders << runtime;
+    folders << QDir::tempPath()
+            << QDir::tempPath() + QLatin1Char('/') + instanceKey() + QStringLiteral(".d");
+    return folders;
+}
+
+// A folder that only we can write to: made when missing, never through a link.
+bool isPrivateFolder(const QString &folder)
+{
+    const QByteArray name = QFile::encodeName(folder);
+    if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
+        return false;
+    struct stat info;
+    return ::lstat(name.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == ::geteuid() && (info.st_mode & 022) == 0;
+}
+
+// The lock file in the folder, opened, when it is ours: no link followed, a
+// regular file of our own. -1 when the folder cannot hold it.
+int openLock(const QString &path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(),
+                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    struct stat info;
+    if (fd >= 0 &&
+        (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != ::geteuid())) {
+        ::close(fd);
+        return -1;
+    }
+    return fd;
 }
 
 } // namespace
@@ -53,9 +87,24 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool GUIenabled
     : QApplication(argc, argv)
 {
     Q_UNUSED(GUIenabled)
-    const QString base = runtimeDirectory() + QLatin1Char('/') + instanceKey();
-    m_serverName = base + QStringLiteral(".sock");
-    m_lockName = base + QStringLiteral(".lock");
+    const QStringList folders = lockFolders();
+    for (int i = 0; i < folders.size() && m_lockFd < 0; ++i) {
+        if (i == folders.size() - 1 && !isPrivateFolder(folders.at(i)))
+            break;
+        const QString base = folders.at(i) + QLatin1Char('/') + instanceKey();
+        m_lockFd = openLock(base + QStringLiteral(".lock"));
+        m_lockName = base + QStringLiteral(".lock");
+        m_serverName = base + QStringLiteral(".sock");
+    }
+    if (m_lockFd < 0) {
+        // Without a lock nothing stops a second instance: refuse to be one.
+        // Said on stderr itself: Qt's messages may go to the journal instead.
+        std::fprintf(stderr,
+                     "%s: cannot make sure that only one instance runs: no folder of %s can hold "
+                     "a lock of this user's own\n",
+                     qPrintable(applicationName()), qPrintable(folders.join(QStringLiteral(", "))));
+        return;
+    }
     tryBecomeFirst();
 }
 
@@ -75,23 +124,18 @@ bool QtSingleApplication::tryBecomeFirst()
 {
     if (m_first)
         return true;
-    if (m_lockFd < 0) {
-        // No link followed, and only our own file counts: in a shared folder
-        // another user could have put one there.
-        m_lockFd = ::open(QFile::encodeName(m_lockName).constData(),
-                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        struct stat info;
-        if (m_lockFd >= 0 && (::fstat(m_lockFd, &info) != 0 || !S_ISREG(info.st_mode) ||
-                              info.st_uid != ::geteuid())) {
-            ::close(m_lockFd);
-            m_lockFd = -1;
-        }
-    }
-    if (m_lockFd >= 0 && ::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+    if (m_lockFd < 0)
         return false;
-    // Locked, or the lock cannot be used at all (e.g. a read-only folder):
-    // better to run without the single-instance guarantee than to refuse to
-    // start.
+    if (::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && !m_lockFailureSaid) {
+            m_lockFailureSaid = true;
+            std::fprintf(stderr,
+                         "%s: cannot make sure that only one instance runs: cannot lock %s: %s\n",
+                         qPrintable(applicationName()), qPrintable(m_lockName),
+                         qPrintable(qt_error_string(errno)));
+        }
+        return false;
+    }
     m_first = true;
 
     m_server = new QLocalServer(this);

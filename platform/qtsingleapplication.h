@@ -11,10 +11,12 @@ class QWidget;
 
 // One running instance per user and program. The first instance holds a lock
 // on a file in the user's runtime folder ($XDG_RUNTIME_DIR, else the temporary
-// folder) and listens on a local socket there; later ones find the lock taken
-// and can hand their request (e.g. "raise") to the first one with
-// sendMessage(). The kernel drops the lock when its owner ends in any way, so
-// a crash never blocks the next start.
+// folder, else a private folder of ours in it) and listens on a local socket
+// there; later ones find the lock taken and can hand their request (e.g.
+// "raise") to the first one with sendMessage(). The kernel drops the lock
+// when its owner ends in any way, so a crash never blocks the next start.
+// Where no folder can hold a lock of the user's own, every start counts as a
+// second one and says why: two instances never run.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
@@ -45,6 +47,7 @@ private:
     int m_lockFd = -1;
     QLocalServer *m_server = nullptr;
     bool m_first = false;
+    bool m_lockFailureSaid = false;
     QPointer<QWidget> m_window;
     bool m_activateOnMessage = false;
 };

@@ -115,7 +115,15 @@ void preferencesDialog::removeCurrent(QListWidget *list)
 
 void preferencesDialog::addFile(QListWidget *list, const QString &startDir)
 {
-    const QString path = QFileDialog::getOpenFileName(this, QString(), startDir, QString());
+    // Start-up files are dot files: Qt's own dialog, which can show them
+    // (a native one ignores the request).
+    QFileDialog dialog(this, QString(), startDir, QString());
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFilter(dialog.filter() | QDir::Hidden);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString path = dialog.selectedFiles().value(0);
     if (path.isEmpty())
         return;
     list->addItem(path);

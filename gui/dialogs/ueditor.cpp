@@ -46,6 +46,16 @@ uEditor::uEditor(QWidget *parent, int)
         checkBox->setEnabled(true);
 
     variableEdit->setEnabled(true);
+    // The form puts the name after the button box, where the dialog itself
+    // stands between the box's last button and the name; Tab reaches the
+    // dialog first, whose focus proxy is the value, and never the name. Qt
+    // takes the name as already in place (the dialog takes no Tab itself), so
+    // it is moved away once before it is put right after the last button.
+    QWidget *lastButton = buttonBox;
+    while (lastButton->nextInFocusChain()->parentWidget() == buttonBox)
+        lastButton = lastButton->nextInFocusChain();
+    QWidget::setTabOrder(valueEdit, variableEdit);
+    QWidget::setTabOrder(lastButton, variableEdit);
     variableEdit->setPlaceholderText(tr("Enter new variable's name here..."));
     valueEdit->setPlaceholderText(tr("Enter new variable's value here..."));
     valueEdit->document()->setModified(false);

@@ -1,4 +1,5 @@
 #include "gui/app/eve.h"
+#include "gui/dialogs/preferencesdialog.h"
 #include "gui/dialogs/ueditor.h"
 #include "gui/history/previewdialog.h"
 #include "gui/model/evemodel.h"
@@ -6,6 +7,11 @@
 #include "support/tablehelpers.h"
 #include "support/windowhelpers.h"
 
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
 #include <QPushButton>
 
 // Save asks before it changes what the user did not edit.
@@ -84,6 +90,48 @@ private slots:
 
         QCOMPARE(Sandbox::readFile(bashrc), before);
         QVERIFY(isModified(*window));
+    }
+
+    // Tab goes round every field of the new-variable dialog in the form's
+    // order; the name field is in it.
+    void tabReachesEveryFieldOfTheNewVariableDialog()
+    {
+        uEditor editor(window.data(), 0);
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        editor.valueEdit->setFocus();
+        QStringList visited;
+        for (int i = 0; i < 5; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+            visited << (button ? button->text() : QApplication::focusWidget()->objectName());
+        }
+        // Without root the scope box is off, and OK is off until a name and a value are typed.
+        QCOMPARE(visited, QStringList({"descriptEdit", "Critical system variable", "Cancel",
+                                       "variableEdit", "valueEdit"}));
+    }
+
+    // ~/.profile and the other start-up files are dot files.
+    void preferencesFileChooserShowsHiddenFiles()
+    {
+        Sandbox::writeFile(Sandbox::home() + "/.profile", "");
+        preferencesDialog preferences(window.data(), modelOf(*window));
+        QStringList shown;
+        answerer->addAction([&shown](QWidget *widget) {
+            auto *chooser = qobject_cast<QFileDialog *>(widget);
+            auto *view = chooser->findChild<QListView *>("listView");
+            QTRY_VERIFY(view->model()->rowCount(view->rootIndex()) > 0);
+            for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+                shown << view->model()->index(row, 0, view->rootIndex()).data().toString();
+            chooser->findChild<QLineEdit *>("fileNameEdit")->setText(".profile");
+            ModalAnswerer::clickButton(chooser, "Open");
+        });
+
+        preferences.userAddButton->click();
+
+        QVERIFY2(shown.contains(".profile"), qPrintable(shown.join(" ")));
+        QCOMPARE(preferences.userFilesList->item(preferences.userFilesList->count() - 1)->text(),
+                 Sandbox::home() + "/.profile");
     }
 
     // The preview shows the same plan; its Save does not ask a second time.

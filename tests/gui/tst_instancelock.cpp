@@ -76,7 +76,47 @@ private slots:
         environment.remove("XDG_RUNTIME_DIR");
 
         QCOMPARE(start(instances[0]), "first");
+        QCOMPARE(start(instances[1]), "running");
         ::close(held);
+    }
+
+    // A runtime folder that cannot hold files: the lock moves on, and still
+    // only one instance runs.
+    void unwritableRuntimeFolderStillAllowsOneInstance()
+    {
+        environment.insert("XDG_RUNTIME_DIR", Sandbox::home() + "/missing/runtime");
+
+        QCOMPARE(start(instances[0]), "first");
+        QCOMPARE(start(instances[1]), "running");
+    }
+
+    // Another user holds every place the lock could go: no instance can be
+    // sure it is the only one, so each says so and counts as a second one.
+    void noPlaceForALockRefusesToRunWithAMessage()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can make files of another user");
+        const QString tmp = environment.value("TMPDIR");
+        const QString lockFile = lockFileIn(tmp);
+        const QString privateFolder = lockFile.chopped(5) + ".d";
+        Sandbox::writeFile(lockFile, "");
+        QVERIFY(QDir().mkpath(privateFolder));
+        for (const QString &path : {lockFile, privateFolder})
+            QCOMPARE(::chown(QFile::encodeName(path).constData(), 65534, 65534), 0);
+        environment.remove("XDG_RUNTIME_DIR");
+
+        QProcess &instance = instances[0];
+        instance.setProcessEnvironment(environment);
+        instance.setProcessChannelMode(QProcess::SeparateChannels);
+        instance.start(QCoreApplication::applicationFilePath(), {"--child"});
+        instance.closeWriteChannel();
+        QVERIFY(instance.waitForFinished(20000));
+
+        QCOMPARE(instance.readAllStandardOutput().trimmed(), "running");
+        const QByteArray said = instance.readAllStandardError();
+        QVERIFY2(said.contains("cannot make sure that only one instance runs: no folder of " +
+                               tmp.toUtf8()),
+                 "it says why");
     }
 };
 
