@@ -146,6 +146,15 @@ EOF
 }
 
 echo "Start to mapped window on Xvfb :$display, medians of $runs starts each"
+# Both programs start with the same application attributes: the ratio is the
+# editor's own work, not a difference of settings.
+echo "Application attributes of both: $(grep -ho 'Qt::AA_[A-Za-z]*' "$source_dir/bench/bare_table.cpp" | sort -u | tr '\n' ' ')"
+editor_attributes=$(grep -ho 'Qt::AA_[A-Za-z]*' "$source_dir/gui/app/main.cpp" | sort -u | tr '\n' ' ')
+bare_attributes=$(grep -ho 'Qt::AA_[A-Za-z]*' "$source_dir/bench/bare_table.cpp" | sort -u | tr '\n' ' ')
+if [ "$editor_attributes" != "$bare_attributes" ]; then
+    echo "the editor sets $editor_attributes but the bare table $bare_attributes: give both the same" >&2
+    exit 1
+fi
 n=0
 for size in $sizes; do
     variables=${size%%:*}
