@@ -22,6 +22,8 @@ if [ "$mode" = test ]; then
     packages="$packages dpkg-dev lintian"
     # The start-up benchmark: its timer talks to X, and it gives each run a session bus.
     packages="$packages libx11-dev dbus-daemon"
+    # The shells and the systemd environment generator whose answers the reach tests ask for.
+    packages="$packages zsh fish tcsh systemd"
 fi
 
 missing=""

@@ -195,6 +195,43 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>EnvironmentDFormat</name>
+    <message>
+        <location filename="../core/reach/environmentdformat.cpp" line="+9"/>
+        <source>%1 is not a variable name environment.d accepts</source>
+        <translation>%1 ist kein Variablenname, den environment.d annimmt</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>environment.d cannot set a variable to an empty value</source>
+        <translation>environment.d kann eine Variable nicht auf einen leeren Wert setzen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>environment.d cannot hold a value with a line break</source>
+        <translation>environment.d kann keinen Wert mit einem Zeilenumbruch aufnehmen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>environment.d cannot pass on a value with a tab or another control character as it is</source>
+        <translation>environment.d kann einen Wert mit einem Tabulator oder einem anderen Steuerzeichen nicht unverändert weitergeben</translation>
+    </message>
+</context>
+<context>
+    <name>EtcEnvironment</name>
+    <message>
+        <location filename="../core/reach/etcenvironment.cpp" line="+56"/>
+        <source>%1 cannot be read: it is not a regular file</source>
+        <translation>%1 kann nicht gelesen werden: sie ist keine reguläre Datei</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+3"/>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>Eve</name>
     <message>
         <location filename="../gui/app/eve.cpp" line="+94"/>
@@ -760,6 +797,62 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>FishFormat</name>
+    <message>
+        <location filename="../core/reach/fishformat.cpp" line="+52"/>
+        <source>%1 is not a variable name fish accepts</source>
+        <translation>%1 ist kein Variablenname, den fish annimmt</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>fish cannot hold a value with a NUL character</source>
+        <translation>fish kann keinen Wert mit einem NUL-Zeichen aufnehmen</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorProbe</name>
+    <message>
+        <location filename="../core/reach/generatorprobe.cpp" line="+16"/>
+        <source>the systemd environment generator</source>
+        <translation>der systemd-Umgebungsgenerator</translation>
+    </message>
+    <message>
+        <location line="+93"/>
+        <source>the systemd environment generator is not installed: %1 was not found</source>
+        <translation>der systemd-Umgebungsgenerator ist nicht installiert: %1 wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>the systemd environment generator did not finish in %1 seconds</source>
+        <translation>der systemd-Umgebungsgenerator wurde nicht in %1 Sekunden fertig</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the systemd environment generator printed more than 1 MiB, so it was stopped</source>
+        <translation>der systemd-Umgebungsgenerator gab mehr als 1 MiB aus und wurde daher beendet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>the systemd environment generator could not be started: %1</source>
+        <translation>der systemd-Umgebungsgenerator konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>the systemd environment generator was killed by signal %1</source>
+        <translation>der systemd-Umgebungsgenerator wurde durch das Signal %1 beendet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>the systemd environment generator exited with status %1</source>
+        <translation>der systemd-Umgebungsgenerator endete mit dem Status %1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the systemd environment generator printed a line this program cannot read: %1</source>
+        <translation>der systemd-Umgebungsgenerator gab eine Zeile aus, die dieses Programm nicht lesen kann: %1</translation>
+    </message>
+</context>
+<context>
     <name>LineGrammar</name>
     <message>
         <location filename="../core/shell/linegrammar.cpp" line="+29"/>
@@ -884,6 +977,19 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>OwnedFile</name>
+    <message>
+        <location filename="../core/reach/ownedfile.cpp" line="+72"/>
+        <source>line %1 of %2 continues on the next line, so it is left for you to change</source>
+        <translation>Zeile %1 von %2 geht in der nächsten Zeile weiter und bleibt daher Ihnen zum Ändern überlassen</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>the last line of %1 ends in a backslash, which would join the new line to it</source>
+        <translation>die letzte Zeile von %1 endet mit einem Backslash, der die neue Zeile an sie anhängen würde</translation>
+    </message>
+</context>
+<context>
     <name>PathListDialog</name>
     <message>
         <location filename="../gui/lookup/pathlistdialog.cpp" line="+37"/>
@@ -1000,6 +1106,14 @@ werden (sie bleibt, wie sie war).
         <location line="+10"/>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>ReachProcess</name>
+    <message>
+        <location filename="../core/reach/reachprocess.cpp" line="+69"/>
+        <source>setsid was not found</source>
+        <translation>setsid wurde nicht gefunden</translation>
     </message>
 </context>
 <context>
@@ -1216,6 +1330,69 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>ShellProbe</name>
+    <message>
+        <location filename="../core/reach/shellprobe.cpp" line="+127"/>
+        <source>%1 is not a valid variable name</source>
+        <translation>%1 ist kein gültiger Variablenname</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 is not a shell this program knows how to ask (bash, sh, dash, zsh, fish, csh and tcsh are)</source>
+        <translation>%1 ist keine Shell, die dieses Programm zu fragen weiß (bash, sh, dash, zsh, fish, csh und tcsh sind es)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 is not installed: %2 was not found</source>
+        <translation>%1 ist nicht installiert: %2 wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 cannot be run: %2 is not a program</source>
+        <translation>%1 kann nicht ausgeführt werden: %2 ist kein Programm</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 cannot be asked: printenv, printf or bash was not found</source>
+        <translation>%1 kann nicht gefragt werden: printenv, printf oder bash wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+93"/>
+        <source>%1 did not finish in %2 seconds: a start-up file may wait for input</source>
+        <translation>%1 wurde nicht in %2 Sekunden fertig: eine Startdatei wartet vielleicht auf eine Eingabe</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 printed more than 1 MiB while starting, so it was stopped</source>
+        <translation>%1 gab beim Start mehr als 1 MiB aus und wurde daher beendet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 could not be started: %2</source>
+        <translation>%1 konnte nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 was killed by signal %2 before it printed the variable</source>
+        <translation>%1 wurde durch das Signal %2 beendet, bevor sie die Variable ausgab</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>printenv could not print %1 in %2</source>
+        <translation>printenv konnte %1 in %2 nicht ausgeben</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 exited with status %2 before it printed the variable</source>
+        <translation>%1 endete mit dem Status %2, bevor sie die Variable ausgab</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 ended without printing the variable: a start-up file may end it with exec or exit</source>
+        <translation>%1 endete, ohne die Variable auszugeben: eine Startdatei beendet sie vielleicht mit exec oder exit</translation>
+    </message>
+</context>
+<context>
     <name>SideEffects</name>
     <message>
         <location filename="../core/preview/sideeffects.cpp" line="+62"/>
@@ -1289,6 +1466,24 @@ werden (sie bleibt, wie sie war).
         <location line="+4"/>
         <source>%1 is saved into no line of its own: this file will not set it.</source>
         <translation>%1 wird in keine eigene Zeile gespeichert: diese Datei wird sie nicht setzen.</translation>
+    </message>
+</context>
+<context>
+    <name>SysrootCommand</name>
+    <message>
+        <location filename="../core/reach/sysrootcommand.cpp" line="+58"/>
+        <source>%1 cannot run with the system folders of %2: %3 was not found</source>
+        <translation>%1 kann nicht mit den Systemordnern von %2 laufen: %3 wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 cannot run with the system folders of %2: this system has no folder %3 to put %4 over</source>
+        <translation>%1 kann nicht mit den Systemordnern von %2 laufen: dieses System hat keinen Ordner %3, über den %4 gelegt werden könnte</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>%1 cannot run with the system folders of %2: %3</source>
+        <translation>%1 kann nicht mit den Systemordnern von %2 laufen: %3</translation>
     </message>
 </context>
 <context>
@@ -1517,7 +1712,7 @@ werden (sie bleibt, wie sie war).
     <name>uEditor</name>
     <message>
         <location filename="../resources/ueditor.ui"/>
-        <location filename="../gui/dialogs/ueditor.cpp" line="+76"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="+86"/>
         <source>Edit variable</source>
         <translation>Variable bearbeiten</translation>
     </message>
@@ -1547,18 +1742,18 @@ werden (sie bleibt, wie sie war).
         <translation>Im Systemverzeichnis /etc/ speichern</translation>
     </message>
     <message>
-        <location filename="../gui/dialogs/ueditor.cpp" line="-42"/>
-        <location line="+41"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="-52"/>
+        <location line="+51"/>
         <source>orv-adm-env</source>
         <translation>orv-adm-env</translation>
     </message>
     <message>
-        <location line="-40"/>
+        <location line="-50"/>
         <source>Create new variable</source>
         <translation>Neue Variable anlegen</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+24"/>
         <source>Enter new variable&apos;s name here...</source>
         <translation>Namen der neuen Variable hier eingeben...</translation>
     </message>

@@ -194,6 +194,43 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>EnvironmentDFormat</name>
+    <message>
+        <location filename="../core/reach/environmentdformat.cpp" line="+9"/>
+        <source>%1 is not a variable name environment.d accepts</source>
+        <translation>%1 — не имя переменной, которое принимает environment.d</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>environment.d cannot set a variable to an empty value</source>
+        <translation>environment.d не может задать переменной пустое значение</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>environment.d cannot hold a value with a line break</source>
+        <translation>environment.d не может хранить значение с переводом строки</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>environment.d cannot pass on a value with a tab or another control character as it is</source>
+        <translation>environment.d не может передать без изменений значение с табуляцией или другим управляющим символом</translation>
+    </message>
+</context>
+<context>
+    <name>EtcEnvironment</name>
+    <message>
+        <location filename="../core/reach/etcenvironment.cpp" line="+56"/>
+        <source>%1 cannot be read: it is not a regular file</source>
+        <translation>не удаётся прочитать %1: это не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+3"/>
+        <source>%1 cannot be read: %2</source>
+        <translation>не удаётся прочитать %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Eve</name>
     <message>
         <location filename="../gui/app/eve.cpp" line="+94"/>
@@ -759,6 +796,62 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>FishFormat</name>
+    <message>
+        <location filename="../core/reach/fishformat.cpp" line="+52"/>
+        <source>%1 is not a variable name fish accepts</source>
+        <translation>%1 — не имя переменной, которое принимает fish</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>fish cannot hold a value with a NUL character</source>
+        <translation>fish не может хранить значение с символом NUL</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorProbe</name>
+    <message>
+        <location filename="../core/reach/generatorprobe.cpp" line="+16"/>
+        <source>the systemd environment generator</source>
+        <translation>генератор окружения systemd</translation>
+    </message>
+    <message>
+        <location line="+93"/>
+        <source>the systemd environment generator is not installed: %1 was not found</source>
+        <translation>генератор окружения systemd не установлен: %1 не найден</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>the systemd environment generator did not finish in %1 seconds</source>
+        <translation>генератор окружения systemd не завершился за %1 с</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the systemd environment generator printed more than 1 MiB, so it was stopped</source>
+        <translation>генератор окружения systemd вывел больше 1 МиБ, поэтому он был остановлен</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>the systemd environment generator could not be started: %1</source>
+        <translation>не удалось запустить генератор окружения systemd: %1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>the systemd environment generator was killed by signal %1</source>
+        <translation>генератор окружения systemd был завершён сигналом %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>the systemd environment generator exited with status %1</source>
+        <translation>генератор окружения systemd завершился с кодом %1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the systemd environment generator printed a line this program cannot read: %1</source>
+        <translation>генератор окружения systemd вывел строку, которую эта программа не может прочитать: %1</translation>
+    </message>
+</context>
+<context>
     <name>LineGrammar</name>
     <message>
         <location filename="../core/shell/linegrammar.cpp" line="+29"/>
@@ -883,6 +976,19 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>OwnedFile</name>
+    <message>
+        <location filename="../core/reach/ownedfile.cpp" line="+72"/>
+        <source>line %1 of %2 continues on the next line, so it is left for you to change</source>
+        <translation>строка %1 файла %2 продолжается на следующей строке, поэтому изменить её придётся вам</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>the last line of %1 ends in a backslash, which would join the new line to it</source>
+        <translation>последняя строка %1 оканчивается обратной косой чертой, которая присоединила бы к ней новую строку</translation>
+    </message>
+</context>
+<context>
     <name>PathListDialog</name>
     <message>
         <location filename="../gui/lookup/pathlistdialog.cpp" line="+37"/>
@@ -999,6 +1105,14 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <location line="+10"/>
         <source>&amp;Save</source>
         <translation>&amp;Сохранить</translation>
+    </message>
+</context>
+<context>
+    <name>ReachProcess</name>
+    <message>
+        <location filename="../core/reach/reachprocess.cpp" line="+69"/>
+        <source>setsid was not found</source>
+        <translation>setsid не найден</translation>
     </message>
 </context>
 <context>
@@ -1215,6 +1329,69 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>ShellProbe</name>
+    <message>
+        <location filename="../core/reach/shellprobe.cpp" line="+127"/>
+        <source>%1 is not a valid variable name</source>
+        <translation>%1 — недопустимое имя переменной</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 is not a shell this program knows how to ask (bash, sh, dash, zsh, fish, csh and tcsh are)</source>
+        <translation>%1 — не оболочка, которую эта программа умеет опрашивать (умеет: bash, sh, dash, zsh, fish, csh и tcsh)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 is not installed: %2 was not found</source>
+        <translation>%1 не установлен: %2 не найден</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 cannot be run: %2 is not a program</source>
+        <translation>не удаётся запустить %1: %2 — не программа</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 cannot be asked: printenv, printf or bash was not found</source>
+        <translation>не удаётся опросить %1: не найден printenv, printf или bash</translation>
+    </message>
+    <message>
+        <location line="+93"/>
+        <source>%1 did not finish in %2 seconds: a start-up file may wait for input</source>
+        <translation>%1 не завершился за %2 с: возможно, файл запуска ждёт ввода</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 printed more than 1 MiB while starting, so it was stopped</source>
+        <translation>%1 вывел при запуске больше 1 МиБ, поэтому он был остановлен</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 could not be started: %2</source>
+        <translation>не удалось запустить %1: %2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 was killed by signal %2 before it printed the variable</source>
+        <translation>%1 был завершён сигналом %2, прежде чем вывел переменную</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>printenv could not print %1 in %2</source>
+        <translation>printenv не смог вывести %1 в %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 exited with status %2 before it printed the variable</source>
+        <translation>%1 завершился с кодом %2, прежде чем вывел переменную</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 ended without printing the variable: a start-up file may end it with exec or exit</source>
+        <translation>%1 завершился, не выведя переменную: возможно, файл запуска завершает его через exec или exit</translation>
+    </message>
+</context>
+<context>
     <name>SideEffects</name>
     <message>
         <location filename="../core/preview/sideeffects.cpp" line="+62"/>
@@ -1288,6 +1465,24 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <location line="+4"/>
         <source>%1 is saved into no line of its own: this file will not set it.</source>
         <translation>%1 не получит своей строки: этот файл не будет её задавать.</translation>
+    </message>
+</context>
+<context>
+    <name>SysrootCommand</name>
+    <message>
+        <location filename="../core/reach/sysrootcommand.cpp" line="+58"/>
+        <source>%1 cannot run with the system folders of %2: %3 was not found</source>
+        <translation>%1 не может работать с системными папками %2: %3 не найден</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 cannot run with the system folders of %2: this system has no folder %3 to put %4 over</source>
+        <translation>%1 не может работать с системными папками %2: в этой системе нет папки %3, поверх которой можно было бы подключить %4</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>%1 cannot run with the system folders of %2: %3</source>
+        <translation>%1 не может работать с системными папками %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1516,7 +1711,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     <name>uEditor</name>
     <message>
         <location filename="../resources/ueditor.ui"/>
-        <location filename="../gui/dialogs/ueditor.cpp" line="+76"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="+86"/>
         <source>Edit variable</source>
         <translation>Изменение переменной</translation>
     </message>
@@ -1546,18 +1741,18 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Сохранить в системном каталоге /etc/</translation>
     </message>
     <message>
-        <location filename="../gui/dialogs/ueditor.cpp" line="-42"/>
-        <location line="+41"/>
+        <location filename="../gui/dialogs/ueditor.cpp" line="-52"/>
+        <location line="+51"/>
         <source>orv-adm-env</source>
         <translation>orv-adm-env</translation>
     </message>
     <message>
-        <location line="-40"/>
+        <location line="-50"/>
         <source>Create new variable</source>
         <translation>Создание новой переменной</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+24"/>
         <source>Enter new variable&apos;s name here...</source>
         <translation>Введите здесь имя новой переменной...</translation>
     </message>
