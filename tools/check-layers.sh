@@ -6,7 +6,8 @@
 #   platform/  its own headers only
 #   gui/       core/, platform/ and gui/; inside gui by sub-folder, a folder
 #              sees itself and those before it in:
-#              model, dialogs, window, then lookup or history, then app
+#              model, dialogs, window, then lookup or history, then reach,
+#              then app
 # tests/ and bench/ may include anything. Prints each include that breaks
 # the rule and exits with 1 if there is one.
 set -eu
@@ -20,7 +21,8 @@ gui_rank() {
     dialogs) echo 2 ;;
     window) echo 3 ;;
     lookup | history) echo 4 ;;
-    app) echo 5 ;;
+    reach) echo 5 ;;
+    app) echo 6 ;;
     *) echo 9 ;;
     esac
 }

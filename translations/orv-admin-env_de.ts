@@ -234,7 +234,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../gui/app/eve.cpp" line="+94"/>
+        <location filename="../gui/app/eve.cpp" line="+96"/>
         <source>Orv environment variable editor</source>
         <translation>Orv-Editor für Umgebungsvariablen</translation>
     </message>
@@ -1109,6 +1109,183 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>ReachCommand</name>
+    <message>
+        <location filename="../gui/reach/reachcommand.cpp" line="+15"/>
+        <source>R&amp;each...</source>
+        <translation>Wirk&amp;ung...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Show which value each kind of program gets for the selected variable</source>
+        <translation>Zeigt, welchen Wert jede Art von Programm für die ausgewählte Variable erhält</translation>
+    </message>
+</context>
+<context>
+    <name>ReachDialog</name>
+    <message>
+        <location filename="../gui/reach/reachdialog.cpp" line="+39"/>
+        <source>no shell</source>
+        <translation>keine Shell</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Where %1 takes effect</source>
+        <translation>Wo %1 wirkt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The value each kind of program gets at the next login, as the programs themselves work it out. The table has %1=%2.</source>
+        <translation>Der Wert, den jede Art von Programm bei der nächsten Anmeldung erhält, so wie die Programme selbst ihn ermitteln. Die Tabelle hat %1=%2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value at the next login</source>
+        <translation>Wert bei der nächsten Anmeldung</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Set in</source>
+        <translation>Gesetzt in</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>As in the table</source>
+        <translation>Wie in der Tabelle</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Graphical programs</source>
+        <translation>Grafische Programme</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Login shell (%1)</source>
+        <translation>Login-Shell (%1)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Terminals</source>
+        <translation>Terminals</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>SSH logins</source>
+        <translation>SSH-Anmeldungen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Double-click a file to see every line that sets %1</source>
+        <translation>Doppelklicken Sie auf eine Datei, um jede Zeile zu sehen, die %1 setzt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Make it reach &amp;graphical programs</source>
+        <translation>Für &amp;grafische Programme setzen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Make it reach &amp;fish</source>
+        <translation>Für &amp;fish setzen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Make it reach &amp;zsh</source>
+        <translation>Für &amp;zsh setzen</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>&amp;Write these lines</source>
+        <translation>Diese Zeilen &amp;schreiben</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Apply to programs started from now on</source>
+        <translation>Für ab jetzt gestartete Programme &amp;übernehmen</translation>
+    </message>
+    <message>
+        <location line="+97"/>
+        <source>working out...</source>
+        <translation>wird ermittelt...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+4"/>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>environment.d read without the generator: %1</source>
+        <translation>environment.d ohne den Generator gelesen: %1</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>%1 cannot be written into %2: %3</source>
+        <translation>%1 kann nicht in %2 geschrieben werden: %3</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Writing changes these lines of %1:</source>
+        <translation>Das Schreiben ändert diese Zeilen von %1:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Writing makes %1 with these lines:</source>
+        <translation>Das Schreiben legt %1 mit diesen Zeilen an:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>It takes effect at the next login; it cannot be applied now, because %1.</source>
+        <translation>Es wirkt ab der nächsten Anmeldung; jetzt übernehmen geht nicht, weil: %1.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Couldn&apos;t write file %1: %2</source>
+        <translation>Datei %1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 was written.</source>
+        <translation>%1 wurde geschrieben.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>What it held before is kept as a copy (Restore...).</source>
+        <translation>Der vorherige Inhalt bleibt als Kopie erhalten (Wiederherstellen...).</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>No copy could be kept: %1.</source>
+        <translation>Es konnte keine Kopie behalten werden: %1.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Programs started from now on get %1=%2. Programs already running and open terminals keep the value they have.</source>
+        <translation>Ab jetzt gestartete Programme erhalten %1=%2. Bereits laufende Programme und offene Terminals behalten ihren Wert.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Couldn&apos;t apply it now: %1: %2</source>
+        <translation>Konnte jetzt nicht übernommen werden: %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReachProcess</name>
     <message>
         <location filename="../core/reach/reachprocess.cpp" line="+69"/>
@@ -1495,6 +1672,40 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>UserManager</name>
+    <message>
+        <location filename="../core/reach/usermanager.cpp" line="+21"/>
+        <location line="+40"/>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <location line="-31"/>
+        <source>%1 did not finish in %2 seconds</source>
+        <translation>%1 ist nicht in %2 Sekunden fertig geworden</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 failed with status %2</source>
+        <translation>%1 ist mit Status %2 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>not asked yet</source>
+        <translation>noch nicht gefragt</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>no systemd user manager answers: %1</source>
+        <translation>kein systemd-Benutzerdienst antwortet: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>systemctl --user failed</source>
+        <translation>systemctl --user ist fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>WhereSet</name>
     <message>
         <location filename="../core/lookup/whereset.cpp" line="+131"/>
@@ -1564,7 +1775,7 @@ werden (sie bleibt, wie sie war).
 <context>
     <name>WhereSetDialog</name>
     <message>
-        <location filename="../gui/lookup/wheresetdialog.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetdialog.cpp" line="+15"/>
         <source>Where is %1 set?</source>
         <translation>Wo wird %1 gesetzt?</translation>
     </message>

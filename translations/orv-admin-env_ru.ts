@@ -233,7 +233,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>Eve</name>
     <message>
-        <location filename="../gui/app/eve.cpp" line="+94"/>
+        <location filename="../gui/app/eve.cpp" line="+96"/>
         <source>Orv environment variable editor</source>
         <translation>Редактор переменных окружения Orv</translation>
     </message>
@@ -1108,6 +1108,183 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>ReachCommand</name>
+    <message>
+        <location filename="../gui/reach/reachcommand.cpp" line="+15"/>
+        <source>R&amp;each...</source>
+        <translation>Д&amp;ействие...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Show which value each kind of program gets for the selected variable</source>
+        <translation>Показать, какое значение выбранной переменной получит каждый вид программ</translation>
+    </message>
+</context>
+<context>
+    <name>ReachDialog</name>
+    <message>
+        <location filename="../gui/reach/reachdialog.cpp" line="+39"/>
+        <source>no shell</source>
+        <translation>нет оболочки</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Where %1 takes effect</source>
+        <translation>Где действует %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The value each kind of program gets at the next login, as the programs themselves work it out. The table has %1=%2.</source>
+        <translation>Значение, которое каждый вид программ получит при следующем входе, как его вычисляют сами программы. В таблице: %1=%2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Programs</source>
+        <translation>Программы</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value at the next login</source>
+        <translation>Значение при следующем входе</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Set in</source>
+        <translation>Задано в</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>As in the table</source>
+        <translation>Как в таблице</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Graphical programs</source>
+        <translation>Графические программы</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Login shell (%1)</source>
+        <translation>Оболочка входа (%1)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Terminals</source>
+        <translation>Терминалы</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>SSH logins</source>
+        <translation>Входы по SSH</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Double-click a file to see every line that sets %1</source>
+        <translation>Дважды щёлкните по файлу, чтобы увидеть все строки, задающие %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Make it reach &amp;graphical programs</source>
+        <translation>Задать для &amp;графических программ</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Make it reach &amp;fish</source>
+        <translation>Задать для &amp;fish</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Make it reach &amp;zsh</source>
+        <translation>Задать для &amp;zsh</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>&amp;Write these lines</source>
+        <translation>&amp;Записать эти строки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Apply to programs started from now on</source>
+        <translation>&amp;Применить к программам, запускаемым с этого момента</translation>
+    </message>
+    <message>
+        <location line="+97"/>
+        <source>working out...</source>
+        <translation>вычисляется...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>yes</source>
+        <translation>да</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+4"/>
+        <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>not set</source>
+        <translation>не задано</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>environment.d read without the generator: %1</source>
+        <translation>environment.d прочитан без генератора: %1</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>%1 cannot be written into %2: %3</source>
+        <translation>%1 нельзя записать в %2: %3</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Writing changes these lines of %1:</source>
+        <translation>Запись изменит эти строки в %1:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Writing makes %1 with these lines:</source>
+        <translation>Запись создаст %1 с этими строками:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>It takes effect at the next login; it cannot be applied now, because %1.</source>
+        <translation>Это подействует при следующем входе; применить сейчас нельзя, потому что %1.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Couldn&apos;t write file %1: %2</source>
+        <translation>Не удалось записать файл %1: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 was written.</source>
+        <translation>%1 записан.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>What it held before is kept as a copy (Restore...).</source>
+        <translation>Прежнее содержимое сохранено в копии (Восстановить...).</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>No copy could be kept: %1.</source>
+        <translation>Не удалось сохранить копию: %1.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Programs started from now on get %1=%2. Programs already running and open terminals keep the value they have.</source>
+        <translation>Программы, запускаемые с этого момента, получат %1=%2. Уже запущенные программы и открытые терминалы сохранят своё значение.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Couldn&apos;t apply it now: %1: %2</source>
+        <translation>Не удалось применить сейчас: %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReachProcess</name>
     <message>
         <location filename="../core/reach/reachprocess.cpp" line="+69"/>
@@ -1494,6 +1671,40 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>UserManager</name>
+    <message>
+        <location filename="../core/reach/usermanager.cpp" line="+21"/>
+        <location line="+40"/>
+        <source>%1 is not installed</source>
+        <translation>%1 не установлен</translation>
+    </message>
+    <message>
+        <location line="-31"/>
+        <source>%1 did not finish in %2 seconds</source>
+        <translation>%1 не завершился за %2 секунд</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 failed with status %2</source>
+        <translation>%1 завершился с ошибкой, код %2</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>not asked yet</source>
+        <translation>ещё не спрошен</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>no systemd user manager answers: %1</source>
+        <translation>менеджер пользователя systemd не отвечает: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>systemctl --user failed</source>
+        <translation>systemctl --user завершился с ошибкой</translation>
+    </message>
+</context>
+<context>
     <name>WhereSet</name>
     <message>
         <location filename="../core/lookup/whereset.cpp" line="+131"/>
@@ -1563,7 +1774,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
 <context>
     <name>WhereSetDialog</name>
     <message>
-        <location filename="../gui/lookup/wheresetdialog.cpp" line="+14"/>
+        <location filename="../gui/lookup/wheresetdialog.cpp" line="+15"/>
         <source>Where is %1 set?</source>
         <translation>Где задана %1?</translation>
     </message>

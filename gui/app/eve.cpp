@@ -10,6 +10,7 @@
 #include "gui/history/previewcommand.h"
 #include "gui/lookup/lookup.h"
 #include "gui/model/evemodel.h"
+#include "gui/reach/reachcommand.h"
 #include "platform/orvintegration.h"
 
 #include <QCloseEvent>
@@ -39,6 +40,7 @@ Eve::Eve(QWidget *parent)
     auto *features = new EvePort(this);
     installLookup(features);
     installHistory(features);
+    installReach(features);
 
     header = tableView->horizontalHeader();
     header->hideSection(EveModel::ScopeColumn);

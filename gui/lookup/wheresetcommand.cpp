@@ -28,11 +28,12 @@ QAction *WhereSetCommand::action() const
     return whereAction;
 }
 
-WhereSetCommand::Answer WhereSetCommand::answer(const QString &name,
-                                                const QString &tableValue) const
+namespace {
+
+WhereSetCommand::Answer answerFor(const EveModel *model, const QString &name,
+                                  const QString &tableValue)
 {
-    const EveModel *model = window->model();
-    Answer result;
+    WhereSetCommand::Answer result;
     // The editor's own environment is the session's: the table may hold edits.
     const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (environment.contains(name))
@@ -46,13 +47,29 @@ WhereSetCommand::Answer WhereSetCommand::answer(const QString &name,
     return result;
 }
 
+} // namespace
+
+WhereSetCommand::Answer WhereSetCommand::answer(const QString &name,
+                                                const QString &tableValue) const
+{
+    return answerFor(window->model(), name, tableValue);
+}
+
+void WhereSetCommand::show(EditorWindow *window, const QString &name, const QString &tableValue,
+                           const QString &path, int line)
+{
+    const Answer found = answerFor(window->model(), name, tableValue);
+    WhereSetDialog dialog(name, found.session, found.lines, found.explanation,
+                          window->model()->homeDir, window->window());
+    if (!path.isEmpty())
+        dialog.selectLine(path, line);
+    dialog.exec();
+}
+
 void WhereSetCommand::run()
 {
     if (whereAction->currentRow() < 0)
         return;
-    const QString name = whereAction->field(EveModel::VariableColumn);
-    const Answer found = answer(name, whereAction->field(EveModel::ValueColumn));
-    WhereSetDialog dialog(name, found.session, found.lines, found.explanation,
-                          window->model()->homeDir, window->window());
-    dialog.exec();
+    show(window, whereAction->field(EveModel::VariableColumn),
+         whereAction->field(EveModel::ValueColumn));
 }

@@ -28,6 +28,11 @@ public:
     };
     Answer answer(const QString &name, const QString &tableValue) const;
 
+    // Shows the dialog for a variable, the line at `path` and `line` (from 1)
+    // chosen when given: for other features that point at a line.
+    static void show(EditorWindow *window, const QString &name, const QString &tableValue,
+                     const QString &path = QString(), int line = 0);
+
 private:
     void run();
 

@@ -10,6 +10,7 @@ WhereSetDialog::WhereSetDialog(const QString &name, const std::optional<QString>
                                const QList<WhereSet::Line> &lines, const QString &explanation,
                                const QString &home, QWidget *parent)
     : QDialog(parent)
+    , shownLines(lines)
 {
     setWindowTitle(tr("Where is %1 set?").arg(name));
     resize(760, 420);
@@ -72,4 +73,17 @@ WhereSetDialog::WhereSetDialog(const QString &name, const std::optional<QString>
     layout->addWidget(explanationLabel);
     layout->addWidget(buttons);
     lineList->setFocus();
+}
+
+void WhereSetDialog::selectLine(const QString &path, int line)
+{
+    int chosen = -1;
+    for (int i = 0; i < shownLines.size(); ++i) {
+        if (shownLines.at(i).path != path)
+            continue;
+        if (chosen < 0 || shownLines.at(i).number == line)
+            chosen = i;
+    }
+    if (chosen >= 0)
+        lineList->setCurrentItem(lineList->topLevelItem(chosen));
 }

@@ -19,9 +19,16 @@ public:
                    const QList<WhereSet::Line> &lines, const QString &explanation,
                    const QString &home, QWidget *parent);
 
+    // Makes the line at `path` and `line` (from 1) the current one, or the
+    // first line of that file when none has that number.
+    void selectLine(const QString &path, int line);
+
     QLabel *sessionLabel;
     QTreeWidget *lineList;
     QLabel *explanationLabel;
 
     enum ColumnNumber { FileColumn, LineColumn, TextColumn, NoteColumn };
+
+private:
+    QList<WhereSet::Line> shownLines;
 };
