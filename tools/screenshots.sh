@@ -1,6 +1,6 @@
 #!/bin/bash
 # Takes the editor's screenshots for the README and the AppStream metadata: the main
-# window, the variable editor, Preferences, the preview of a save and Restore, as a user
+# window, Reach, the variable editor, Preferences, the preview of a save and Restore, as a user
 # "alex" sees them on a desktop without its own icon theme (so the Breeze fallback shows,
 # as the package recommends).
 #
@@ -207,6 +207,17 @@ xdotool windowactivate --sync "$main"
 # Select the EDITOR row, the third one.
 xdotool key --clearmodifiers Down Down Down Up
 shoot "$main" "main-window$suffix.png"
+
+# Where EDITOR takes effect: its rows are worked out by the shells and the
+# systemd generator within a few seconds.
+xdotool key --clearmodifiers ctrl+r
+reach=$(find_window "Where EDITOR takes effect")
+[ -n "$reach" ] || { echo "Reach did not open" >&2; exit 1; }
+sleep 4
+xdotool key --clearmodifiers alt+g # Make it reach graphical programs
+shoot "$reach" "reach$suffix.png"
+xdotool windowactivate --sync "$reach" key --clearmodifiers Escape
+sleep 0.5
 
 # Edit -> Preferences... (the last item of the Edit menu).
 xdotool key --clearmodifiers alt+e Up Return

@@ -88,6 +88,8 @@ ReachDialog::ReachDialog(EditorWindow *window, const QString &name, const QStrin
         new QTreeWidgetItem(rowList, {context});
     rowList->header()->setSectionResizeMode(ValueColumn, QHeaderView::Stretch);
     rowList->header()->setStretchLastSection(false);
+    rowList->resizeColumnToContents(ContextColumn);
+    rowList->setColumnWidth(OriginColumn, 220);
     rowList->setToolTip(tr("Double-click a file to see every line that sets %1").arg(name));
     connect(rowList, &QTreeWidget::itemActivated, this,
             [this](QTreeWidgetItem *item) { openOrigin(rowList->indexOfTopLevelItem(item)); });
@@ -276,9 +278,9 @@ void ReachDialog::propose(ReachWrite::Target target)
     QString text = pending->file.existed ? tr("Writing changes these lines of %1:").arg(file)
                                          : tr("Writing makes %1 with these lines:").arg(file);
     if (target == ReachWrite::Target::GraphicalPrograms && !userManager->answer().ok())
-        text += QLatin1Char(' ') +
-                tr("It takes effect at the next login; it cannot be applied now, because %1.")
-                    .arg(userManager->answer().reason());
+        text = tr("It takes effect at the next login; it cannot be applied now, because %1.")
+                   .arg(userManager->answer().reason()) +
+               QLatin1Char(' ') + text;
     pendingLabel->setText(text);
     pendingLines->setPlainText(QString::fromUtf8(
         LineDiff::unified(pending->file.before, pending->file.after, file, file)));
