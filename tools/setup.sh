@@ -24,6 +24,8 @@ if [ "$mode" = test ]; then
     packages="$packages libx11-dev dbus-daemon"
     # The shells and the systemd environment generator whose answers the reach tests ask for.
     packages="$packages zsh fish tcsh systemd"
+    # The playbooks of orv-admin-env-cli, run for real by its test.
+    packages="$packages ansible-core"
 fi
 
 missing=""

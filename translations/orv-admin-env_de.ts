@@ -195,6 +195,200 @@ werden (sie bleibt, wie sie war).
     </message>
 </context>
 <context>
+    <name>DotEnv</name>
+    <message>
+        <location filename="../core/export/dotenv.cpp" line="+32"/>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>not NAME=VALUE</source>
+        <translation>nicht NAME=WERT</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the double quote is not closed</source>
+        <translation>das doppelte Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the single quote is not closed</source>
+        <translation>das einfache Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>EnvTool</name>
+    <message>
+        <location filename="../cli/env/envtool.cpp" line="+53"/>
+        <source>Try &quot;orv-admin-env-cli --help&quot;.
+</source>
+        <translation>Siehe &quot;orv-admin-env-cli --help&quot;.
+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+185"/>
+        <source>%1 cannot be read: %2
+</source>
+        <translation>%1 kann nicht gelesen werden: %2
+</translation>
+    </message>
+    <message>
+        <location line="-134"/>
+        <source>unset needs a NAME</source>
+        <translation>unset braucht einen NAMEN</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+96"/>
+        <location line="+107"/>
+        <source>%1 is not a variable of this session</source>
+        <translation>%1 ist keine Variable dieser Sitzung</translation>
+    </message>
+    <message>
+        <location line="-198"/>
+        <source>Expected &quot;set NAME VALUE&quot; or &quot;unset NAME&quot;, not &quot;%1&quot;</source>
+        <translation>Erwartet wurde &quot;set NAME VALUE&quot; oder &quot;unset NAME&quot;, nicht &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is not a variable name: letters, digits and &quot;_&quot;, not starting with a digit</source>
+        <translation>%1 ist kein Variablenname: Buchstaben, Ziffern und &quot;_&quot;, nicht mit einer Ziffer beginnend</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Unknown option: %1</source>
+        <translation>Unbekannte Option: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>--system: only a root session writes the system-wide start-up file</source>
+        <translation>--system: nur eine root-Sitzung schreibt die systemweite Startdatei</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. Nothing was saved.</source>
+        <translation>Der Wert von %1 kann nicht in eine Startdatei geschrieben werden: %2. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Nothing was saved: run again with --yes to save anyway, or with --dry-run to see every line it changes.
+</source>
+        <translation>Es wurde nichts gespeichert: erneut mit --yes aufrufen, um trotzdem zu speichern, oder mit --dry-run, um jede geänderte Zeile zu sehen.
+</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1: cannot save %2: %3
+</source>
+        <translation>%1: %2 kann nicht gespeichert werden: %3
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Saved %1 without a copy: %2
+</source>
+        <translation>%1 wurde ohne Kopie gespeichert: %2
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Saved %1
+</source>
+        <translation>%1 gespeichert
+</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>export --format ansible needs the NAMEs to set</source>
+        <translation>export --format ansible braucht die zu setzenden NAMEN</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Unknown format: %1</source>
+        <translation>Unbekanntes Format: %1</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Usage: orv-admin-env-cli list [--json]
+       orv-admin-env-cli get NAME
+       orv-admin-env-cli where NAME
+       orv-admin-env-cli [--dry-run] [--yes] set NAME VALUE [--system]
+                         [--description TEXT] [--critical] [set ...] [unset NAME]
+       orv-admin-env-cli [--dry-run] [--yes] unset NAME [set ...] [unset ...]
+       orv-admin-env-cli export --format env|json|ansible [NAME...]
+       orv-admin-env-cli [--dry-run] [--yes] import FILE.env
+       orv-admin-env-cli backups list|diff|restore ...
+
+The Environment Variables Editor from a shell: the same variables, start-up
+files, rules and safe saves as its window.
+
+  list         the variables of this session: name, value, origin file,
+               description and &quot;critical&quot;, separated by tabs (--json: JSON)
+  get NAME     the variable&apos;s value
+  where NAME   every line of the start-up files that sets it, one a line
+  set, unset   changes, as many as given, written as one save
+  export       the variables as .env lines, as JSON, or as an Ansible
+               playbook that makes the same change on any machine
+  import       sets every NAME=VALUE of a .env file, as one save
+  backups      the copies of the start-up files (see orv-admin-env-backups)
+  --dry-run    prints the unified diff of every file the save would write,
+               and its warnings on the error output; writes nothing
+  --yes        saves even when the save also changes variables not named
+  --help       this text
+
+Exit status: 0 done, 1 a file could not be read or written (nothing changed
+in it), 2 wrong arguments or a refused change.
+</source>
+        <translation>Aufruf: orv-admin-env-cli list [--json]
+       orv-admin-env-cli get NAME
+       orv-admin-env-cli where NAME
+       orv-admin-env-cli [--dry-run] [--yes] set NAME VALUE [--system]
+                         [--description TEXT] [--critical] [set ...] [unset NAME]
+       orv-admin-env-cli [--dry-run] [--yes] unset NAME [set ...] [unset ...]
+       orv-admin-env-cli export --format env|json|ansible [NAME...]
+       orv-admin-env-cli [--dry-run] [--yes] import FILE.env
+       orv-admin-env-cli backups list|diff|restore ...
+
+Der Editor für Umgebungsvariablen in der Shell: dieselben Variablen, Startdateien,
+Regeln und sicheren Speichervorgänge wie sein Fenster.
+
+  list         die Variablen dieser Sitzung: Name, Wert, Herkunftsdatei,
+               Beschreibung und &quot;critical&quot;, durch Tabulatoren getrennt (--json: JSON)
+  get NAME     der Wert der Variablen
+  where NAME   jede Zeile der Startdateien, die sie setzt, eine pro Zeile
+  set, unset   Änderungen, beliebig viele, als ein Speichervorgang geschrieben
+  export       die Variablen als .env-Zeilen, als JSON oder als Ansible-Playbook,
+               das dieselbe Änderung auf jedem Rechner macht
+  import       setzt jedes NAME=VALUE einer .env-Datei, als ein Speichervorgang
+  backups      die Kopien der Startdateien (siehe orv-admin-env-backups)
+  --dry-run    gibt den Unified-Diff jeder Datei aus, die gespeichert würde,
+               und die Warnungen auf der Fehlerausgabe; schreibt nichts
+  --yes        speichert auch, wenn das Speichern nicht genannte Variablen ändert
+  --help       dieser Text
+
+Rückgabewert: 0 erledigt, 1 eine Datei konnte nicht gelesen oder geschrieben werden
+(nichts darin geändert), 2 falsche Argumente oder eine abgelehnte Änderung.
+</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>No command given.</source>
+        <translation>Kein Befehl angegeben.</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Wrong arguments for %1.</source>
+        <translation>Falsche Argumente für %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unknown command: %1</source>
+        <translation>Unbekannter Befehl: %1</translation>
+    </message>
+</context>
+<context>
     <name>EnvironmentDFormat</name>
     <message>
         <location filename="../core/reach/environmentdformat.cpp" line="+9"/>
@@ -719,7 +913,8 @@ werden (sie bleibt, wie sie war).
         <translation>WERT</translation>
     </message>
     <message>
-        <location line="-201"/>
+        <location filename="../core/variables/variabletable.cpp" line="+24"/>
+        <location filename="../gui/model/evemodel.cpp" line="-201"/>
         <location line="+34"/>
         <location line="+167"/>
         <location line="+14"/>
@@ -727,7 +922,7 @@ werden (sie bleibt, wie sie war).
         <translation>System</translation>
     </message>
     <message>
-        <location line="-198"/>
+        <location filename="../gui/model/evemodel.cpp" line="-198"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Die Datei konnte nicht geöffnet werden: %1 !</translation>
     </message>
@@ -1179,7 +1374,7 @@ werden (sie bleibt, wie sie war).
         <translation>SSH-Anmeldungen</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+7"/>
         <source>Double-click a file to see every line that sets %1</source>
         <translation>Doppelklicken Sie auf eine Datei, um jede Zeile zu sehen, die %1 setzt</translation>
     </message>
@@ -1250,12 +1445,12 @@ werden (sie bleibt, wie sie war).
         <translation>Das Schreiben legt %1 mit diesen Zeilen an:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>It takes effect at the next login; it cannot be applied now, because %1.</source>
         <translation>Es wirkt ab der nächsten Anmeldung; jetzt übernehmen geht nicht, weil: %1.</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+16"/>
         <source>Couldn&apos;t write file %1: %2</source>
         <translation>Datei %1 konnte nicht geschrieben werden: %2</translation>
     </message>

@@ -194,6 +194,200 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
     </message>
 </context>
 <context>
+    <name>DotEnv</name>
+    <message>
+        <location filename="../core/export/dotenv.cpp" line="+32"/>
+        <source>line %1: %2</source>
+        <translation>строка %1: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>not NAME=VALUE</source>
+        <translation>не NAME=VALUE</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the double quote is not closed</source>
+        <translation>двойная кавычка не закрыта</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the single quote is not closed</source>
+        <translation>одинарная кавычка не закрыта</translation>
+    </message>
+</context>
+<context>
+    <name>EnvTool</name>
+    <message>
+        <location filename="../cli/env/envtool.cpp" line="+53"/>
+        <source>Try &quot;orv-admin-env-cli --help&quot;.
+</source>
+        <translation>Попробуйте &quot;orv-admin-env-cli --help&quot;.
+</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+185"/>
+        <source>%1 cannot be read: %2
+</source>
+        <translation>%1 нельзя прочитать: %2
+</translation>
+    </message>
+    <message>
+        <location line="-134"/>
+        <source>unset needs a NAME</source>
+        <translation>unset нужно ИМЯ</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+96"/>
+        <location line="+107"/>
+        <source>%1 is not a variable of this session</source>
+        <translation>%1 — не переменная этого сеанса</translation>
+    </message>
+    <message>
+        <location line="-198"/>
+        <source>Expected &quot;set NAME VALUE&quot; or &quot;unset NAME&quot;, not &quot;%1&quot;</source>
+        <translation>Ожидалось &quot;set NAME VALUE&quot; или &quot;unset NAME&quot;, а не &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is not a variable name: letters, digits and &quot;_&quot;, not starting with a digit</source>
+        <translation>%1 — не имя переменной: буквы, цифры и &quot;_&quot;, не начиная с цифры</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Unknown option: %1</source>
+        <translation>Неизвестный параметр: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>--system: only a root session writes the system-wide start-up file</source>
+        <translation>--system: общесистемный файл запуска записывает только сеанс root</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>The value of %1 cannot be written into a start-up file: %2. Nothing was saved.</source>
+        <translation>Значение %1 нельзя записать в файл запуска: %2. Ничего не сохранено.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Nothing was saved: run again with --yes to save anyway, or with --dry-run to see every line it changes.
+</source>
+        <translation>Ничего не сохранено: запустите снова с --yes, чтобы всё равно сохранить, или с --dry-run, чтобы увидеть каждую изменяемую строку.
+</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1: cannot save %2: %3
+</source>
+        <translation>%1: нельзя сохранить %2: %3
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Saved %1 without a copy: %2
+</source>
+        <translation>%1 сохранён без копии: %2
+</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Saved %1
+</source>
+        <translation>Сохранён %1
+</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>export --format ansible needs the NAMEs to set</source>
+        <translation>export --format ansible нужны ИМЕНА задаваемых переменных</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Unknown format: %1</source>
+        <translation>Неизвестный формат: %1</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Usage: orv-admin-env-cli list [--json]
+       orv-admin-env-cli get NAME
+       orv-admin-env-cli where NAME
+       orv-admin-env-cli [--dry-run] [--yes] set NAME VALUE [--system]
+                         [--description TEXT] [--critical] [set ...] [unset NAME]
+       orv-admin-env-cli [--dry-run] [--yes] unset NAME [set ...] [unset ...]
+       orv-admin-env-cli export --format env|json|ansible [NAME...]
+       orv-admin-env-cli [--dry-run] [--yes] import FILE.env
+       orv-admin-env-cli backups list|diff|restore ...
+
+The Environment Variables Editor from a shell: the same variables, start-up
+files, rules and safe saves as its window.
+
+  list         the variables of this session: name, value, origin file,
+               description and &quot;critical&quot;, separated by tabs (--json: JSON)
+  get NAME     the variable&apos;s value
+  where NAME   every line of the start-up files that sets it, one a line
+  set, unset   changes, as many as given, written as one save
+  export       the variables as .env lines, as JSON, or as an Ansible
+               playbook that makes the same change on any machine
+  import       sets every NAME=VALUE of a .env file, as one save
+  backups      the copies of the start-up files (see orv-admin-env-backups)
+  --dry-run    prints the unified diff of every file the save would write,
+               and its warnings on the error output; writes nothing
+  --yes        saves even when the save also changes variables not named
+  --help       this text
+
+Exit status: 0 done, 1 a file could not be read or written (nothing changed
+in it), 2 wrong arguments or a refused change.
+</source>
+        <translation>Использование: orv-admin-env-cli list [--json]
+       orv-admin-env-cli get NAME
+       orv-admin-env-cli where NAME
+       orv-admin-env-cli [--dry-run] [--yes] set NAME VALUE [--system]
+                         [--description TEXT] [--critical] [set ...] [unset NAME]
+       orv-admin-env-cli [--dry-run] [--yes] unset NAME [set ...] [unset ...]
+       orv-admin-env-cli export --format env|json|ansible [NAME...]
+       orv-admin-env-cli [--dry-run] [--yes] import FILE.env
+       orv-admin-env-cli backups list|diff|restore ...
+
+Редактор переменных окружения из командной строки: те же переменные, файлы
+запуска, правила и надёжное сохранение, что и в его окне.
+
+  list         переменные этого сеанса: имя, значение, файл-источник,
+               описание и &quot;critical&quot; через табуляцию (--json: JSON)
+  get NAME     значение переменной
+  where NAME   каждая строка файлов запуска, задающая её, по одной на строку
+  set, unset   изменения, сколько угодно, записываются одним сохранением
+  export       переменные строками .env, в JSON или как плейбук Ansible,
+               который делает то же изменение на любой машине
+  import       задаёт каждое NAME=VALUE из файла .env одним сохранением
+  backups      копии файлов запуска (см. orv-admin-env-backups)
+  --dry-run    печатает унифицированный diff каждого файла, который запишет сохранение,
+               и предупреждения в поток ошибок; ничего не записывает
+  --yes        сохраняет, даже если сохранение меняет и неназванные переменные
+  --help       этот текст
+
+Код возврата: 0 готово, 1 файл не удалось прочитать или записать (в нём ничего
+не изменено), 2 неверные аргументы или отклонённое изменение.
+</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>No command given.</source>
+        <translation>Команда не указана.</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Wrong arguments for %1.</source>
+        <translation>Неверные аргументы для %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unknown command: %1</source>
+        <translation>Неизвестная команда: %1</translation>
+    </message>
+</context>
+<context>
     <name>EnvironmentDFormat</name>
     <message>
         <location filename="../core/reach/environmentdformat.cpp" line="+9"/>
@@ -718,7 +912,8 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>ЗНАЧЕНИЕ</translation>
     </message>
     <message>
-        <location line="-201"/>
+        <location filename="../core/variables/variabletable.cpp" line="+24"/>
+        <location filename="../gui/model/evemodel.cpp" line="-201"/>
         <location line="+34"/>
         <location line="+167"/>
         <location line="+14"/>
@@ -726,7 +921,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Система</translation>
     </message>
     <message>
-        <location line="-198"/>
+        <location filename="../gui/model/evemodel.cpp" line="-198"/>
         <source>Couldn&apos;t open file: %1 !</source>
         <translation>Не удалось открыть файл: %1 !</translation>
     </message>
@@ -1178,7 +1373,7 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Входы по SSH</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+7"/>
         <source>Double-click a file to see every line that sets %1</source>
         <translation>Дважды щёлкните по файлу, чтобы увидеть все строки, задающие %1</translation>
     </message>
@@ -1249,12 +1444,12 @@ Exit status: 0 done, 1 a copy, a file or the folder of copies cannot be read,
         <translation>Запись создаст %1 с этими строками:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>It takes effect at the next login; it cannot be applied now, because %1.</source>
         <translation>Это подействует при следующем входе; применить сейчас нельзя, потому что %1.</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+16"/>
         <source>Couldn&apos;t write file %1: %2</source>
         <translation>Не удалось записать файл %1: %2</translation>
     </message>

@@ -23,6 +23,7 @@ set(missing)
 foreach(path
         bin/orv-admin-env
         bin/orv-admin-env-backups
+        bin/orv-admin-env-cli
         share/applications/org.orv.admin_env.desktop
         share/metainfo/org.orv.admin_env.metainfo.xml)
     if(NOT EXISTS "${PREFIX}/${path}" OR IS_DIRECTORY "${PREFIX}/${path}")

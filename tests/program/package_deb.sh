@@ -77,6 +77,9 @@ for page in "$source"/docs/*.1; do
 done
 check "the backups program has its manual page" \
     gzip -t "$root/usr/share/man/man1/orv-admin-env-backups.1.gz"
+check "the command-line program is executable" test -x "$root/usr/bin/orv-admin-env-cli"
+check "the command-line program has its manual page" \
+    gzip -t "$root/usr/share/man/man1/orv-admin-env-cli.1.gz"
 strays=$(cd "$root" && find . -type f | sed 's|^\./||' |
     grep -vE '^usr/bin/[^/]+$|^usr/share/(applications|metainfo|man/man1)/[^/]+$' |
     grep -vE '^usr/share/icons/hicolor/[^/]+/apps/[^/]+$|^usr/share/doc/orv-admin-env/[^/]+$')
