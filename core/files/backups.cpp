@@ -1,5 +1,7 @@
 #include "core/files/backups.h"
 
+#include "core/files/descriptor.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -34,26 +36,6 @@ Failure copyFailure(const QString &path, int code)
 {
     return Failure{path, Failure::Step::Copy, qt_error_string(code)};
 }
-
-// Closes the descriptor when it goes out of scope.
-class Descriptor
-{
-public:
-    explicit Descriptor(int fd)
-        : fd(fd)
-    {}
-    ~Descriptor()
-    {
-        if (fd >= 0)
-            ::close(fd);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    operator int() const { return fd; }
-
-private:
-    int fd;
-};
 
 bool writeAll(int fd, const QByteArray &bytes)
 {

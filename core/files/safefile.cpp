@@ -1,5 +1,6 @@
 #include "core/files/safefile.h"
 
+#include "core/files/descriptor.h"
 #include "core/files/systempaths.h"
 
 #include <QCoreApplication>
@@ -40,26 +41,6 @@ bool isOurs(const struct stat &info)
 {
     return info.st_uid == ::geteuid() && info.st_nlink == 1;
 }
-
-// Closes the descriptor when it goes out of scope.
-class Descriptor
-{
-public:
-    explicit Descriptor(int fd)
-        : fd(fd)
-    {}
-    ~Descriptor()
-    {
-        if (fd >= 0)
-            ::close(fd);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    operator int() const { return fd; }
-
-private:
-    int fd;
-};
 
 // The whole file; the Failure's path is the caller's to fill in.
 Result<QByteArray> readAll(int fd)

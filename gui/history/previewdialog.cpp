@@ -4,6 +4,7 @@
 #include "core/preview/linediff.h"
 #include "gui/history/diffview.h"
 
+#include "gui/window/wrappedlabel.h"
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
@@ -11,15 +12,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QLabel *wrappedLabel(const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
 
 QString bulleted(const QStringList &sentences)
 {

@@ -5,6 +5,7 @@
 #include "core/save/restore.h"
 #include "gui/history/diffview.h"
 
+#include "gui/window/wrappedlabel.h"
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -16,15 +17,6 @@ namespace {
 
 constexpr int copyRole = Qt::UserRole; // index into the copies, or -1 for a file
 
-QLabel *wrappedLabel(QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
-
 } // namespace
 
 RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &home, QWidget *parent)
@@ -34,7 +26,7 @@ RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &hom
     setWindowTitle(tr("Restore an earlier version"));
     resize(960, 600);
 
-    folderLabel = wrappedLabel(this);
+    folderLabel = wrappedLabel(QString(), this);
     folderLabel->setObjectName(QStringLiteral("folderLabel"));
     const Result<QList<Backups::Copy>> listed = Backups::list();
     if (!listed)
@@ -75,7 +67,7 @@ RestoreDialog::RestoreDialog(const QStringList &startupFiles, const QString &hom
     copyTree->header()->setStretchLastSection(false);
     copyTree->resizeColumnToContents(1);
 
-    statusLabel = wrappedLabel(this);
+    statusLabel = wrappedLabel(QString(), this);
     statusLabel->setObjectName(QStringLiteral("statusLabel"));
     diffView = new DiffView(this);
     diffView->setObjectName(QStringLiteral("diffView"));

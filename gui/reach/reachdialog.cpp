@@ -11,6 +11,7 @@
 #include "gui/model/evemodel.h"
 #include "gui/window/editorwindow.h"
 
+#include "gui/window/wrappedlabel.h"
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
@@ -23,15 +24,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QLabel *wrappedLabel(QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
 
 QString shellName(const QString &shell)
 {
@@ -70,7 +62,7 @@ ReachDialog::ReachDialog(EditorWindow *window, const QString &name, const QStrin
     setWindowTitle(tr("Where %1 takes effect").arg(name));
     resize(820, 460);
 
-    introLabel = wrappedLabel(this);
+    introLabel = wrappedLabel(QString(), this);
     introLabel->setText(tr("The value each kind of program gets at the next login, as the "
                            "programs themselves work it out. The table has %1=%2.")
                             .arg(name, tableValue));
@@ -110,7 +102,7 @@ ReachDialog::ReachDialog(EditorWindow *window, const QString &name, const QStrin
     makeRow->addWidget(shellButton);
     makeRow->addStretch();
 
-    pendingLabel = wrappedLabel(this);
+    pendingLabel = wrappedLabel(QString(), this);
     pendingLabel->setObjectName(QStringLiteral("pendingLabel"));
     pendingLines = new QPlainTextEdit(this);
     pendingLines->setReadOnly(true);
