@@ -37,23 +37,6 @@ Failure copyFailure(const QString &path, int code)
     return Failure{path, Failure::Step::Copy, qt_error_string(code)};
 }
 
-bool writeAll(int fd, const QByteArray &bytes)
-{
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const ssize_t put = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
-        if (put < 0 && errno == EINTR)
-            continue;
-        if (put <= 0) {
-            if (put == 0)
-                errno = EIO;
-            return false;
-        }
-        done += put;
-    }
-    return true;
-}
-
 // A copy larger than the process may write fails before a byte is written:
 // the write past the limit would raise SIGXFSZ and end the program.
 bool fitsSizeLimit(qint64 size)
@@ -137,7 +120,7 @@ Result<QString> writeTemporary(const QString &folder, const QByteArray &bytes)
                 continue;
             return copyFailure(path, errno);
         }
-        if (writeAll(fd, bytes) && ::fsync(fd) == 0)
+        if (writeAllAt(fd, bytes) && ::fsync(fd) == 0)
             return path;
         const int error = errno;
         QFile::remove(path);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArray>
+
+#include <cerrno>
 #include <unistd.h>
 
 // A file descriptor that is closed when it goes out of scope.
@@ -21,3 +24,23 @@ public:
 private:
     int fd;
 };
+
+// Writes the bytes from `from` on to the same place in the file, the whole
+// of them; false with errno set when a write fails.
+inline bool writeAllAt(int fd, const QByteArray &bytes, qint64 from = 0)
+{
+    qint64 done = from;
+    while (done < bytes.size()) {
+        const ssize_t put =
+            ::pwrite(fd, bytes.constData() + done, size_t(bytes.size() - done), done);
+        if (put < 0 && errno == EINTR)
+            continue;
+        if (put <= 0) {
+            if (put == 0)
+                errno = EIO;
+            return false;
+        }
+        done += put;
+    }
+    return true;
+}

@@ -75,25 +75,6 @@ Result<QByteArray> readAll(int fd)
     return data;
 }
 
-// Writes the bytes from `from` on to the same place in the file.
-bool writeAll(int fd, const QByteArray &bytes, qint64 from = 0)
-{
-    qint64 done = from;
-    while (done < bytes.size()) {
-        const ssize_t put =
-            ::pwrite(fd, bytes.constData() + done, size_t(bytes.size() - done), done);
-        if (put < 0 && errno == EINTR)
-            continue;
-        if (put <= 0) {
-            if (put == 0)
-                errno = EIO;
-            return false;
-        }
-        done += put;
-    }
-    return true;
-}
-
 // Whether a missing file could be made there.
 Status canCreate(const QString &path)
 {
@@ -131,7 +112,7 @@ bool reserve(int fd, qint64 size)
 
 bool putBack(int fd, const QByteArray &before, qint64 from)
 {
-    return writeAll(fd, before, from) && ::ftruncate(fd, before.size()) == 0 && ::fsync(fd) == 0;
+    return writeAllAt(fd, before, from) && ::ftruncate(fd, before.size()) == 0 && ::fsync(fd) == 0;
 }
 
 // Where two contents start to differ: the bytes before it stay as they are.
@@ -216,7 +197,7 @@ Status rewrite(const QString &path, bool existed, const QByteArray &before, cons
 
     // From here on old bytes change: any failure puts them back.
     const qint64 from = firstDifference(before, after);
-    const bool written = writeAll(fd, after, from) &&
+    const bool written = writeAllAt(fd, after, from) &&
                          (after.size() >= before.size() || ::ftruncate(fd, after.size()) == 0);
     const bool synced = written && ::fsync(fd) == 0;
     if (synced)
