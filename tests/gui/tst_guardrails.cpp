@@ -96,16 +96,21 @@ private slots:
     // order; the name field is in it.
     void tabReachesEveryFieldOfTheNewVariableDialog()
     {
-        uEditor editor(window.data(), 0);
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowActive(&editor));
-        editor.valueEdit->setFocus();
         QStringList visited;
-        for (int i = 0; i < 5; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
-            visited << (button ? button->text() : QApplication::focusWidget()->objectName());
-        }
+        answerer->addAction([&visited](QWidget *dialog) {
+            auto *editor = qobject_cast<uEditor *>(dialog);
+            QApplication::setActiveWindow(editor);
+            editor->valueEdit->setFocus();
+            for (int i = 0; i < 5; ++i) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+                visited << (button ? button->text() : QApplication::focusWidget()->objectName());
+            }
+            editor->reject();
+        });
+
+        uEditor(window.data(), 0).exec();
+
         // Without root the scope box is off, and OK is off until a name and a value are typed.
         QCOMPARE(visited, QStringList({"descriptEdit", "Critical system variable", "Cancel",
                                        "variableEdit", "valueEdit"}));
